@@ -1,0 +1,196 @@
+#include "ui/desk.h"
+
+#include <algorithm>
+
+#include "ui/platform.h"
+#include "ui/runTimeError.h"
+
+namespace zelvs {
+
+namespace {
+
+Platform* thePlatform = nullptr;
+
+/// Front to back; a form never leaves its layer.
+int layerOf(const Form& form) {
+  enum { kTopmost, kWindow, kFloatingChild, kChild, kFrame };
+  if (form.kind() == FormKind::Frame) return kFrame;
+  if (form.topmost()) return kTopmost;
+  if (form.kind() == FormKind::Window) return kWindow;
+  return form.floating() ? kFloatingChild : kChild;
+}
+
+FormPlace& placeOf(const Form& form) {
+  return *FormPlace::named(form.name());
+}
+
+bool within(const Control& control, const Control& holder) {
+  for (const Control* at = &control; at != nullptr; at = at->container()) {
+    if (at == &holder) return true;
+  }
+  return false;
+}
+
+}  // namespace
+
+Platform& platform() {
+  return *thePlatform;
+}
+
+void setPlatform(Platform* platform) {
+  thePlatform = platform;
+}
+
+Desk& desk() {
+  // Never destroyed: forms that live to the end of the program still take their timers out of it.
+  static Desk& only = *new Desk;
+  return only;
+}
+
+Desk::Event::Event() {
+  ++desk().events_;
+}
+
+Desk::Event::~Event() {
+  if (--desk().events_ == 0) desk().dropped_.clear();
+}
+
+Form* Desk::frame() const {
+  return forms_.empty() || forms_.back()->kind() != FormKind::Frame ? nullptr : forms_.back();
+}
+
+void Desk::loaded(Form& form) {
+  const auto behind =
+      std::find_if(forms_.begin(), forms_.end(), [&](const Form* other) { return layerOf(*other) > layerOf(form); });
+  forms_.insert(behind, &form);
+}
+
+void Desk::raise(Form& form) {
+  std::erase(forms_, &form);
+  const auto front =
+      std::find_if(forms_.begin(), forms_.end(), [&](const Form* other) { return layerOf(*other) >= layerOf(form); });
+  forms_.insert(front, &form);
+  // What a window owns stays in front of it.
+  const std::vector<Form*> order = forms_;
+  for (auto at = order.rbegin(); at != order.rend(); ++at) {
+    if ((*at)->owner() == &form && (*at)->visible() && layerOf(**at) == layerOf(form)) raise(**at);
+  }
+  platform().orderChanged();
+}
+
+void Desk::show(Form& form, ShowMode mode, Form* owner) {
+  const Event event;
+  if (mode == ShowMode::Modal && form.visible_) runTimeError(form.name() + " is visible and cannot be shown modally");
+  form.owner_ = owner;
+  if (form.kind() == FormKind::Child && !frame()->visible_) {
+    frame()->visible_ = true;
+    platform().formShown(*frame());
+  }
+  const bool wasVisible = form.visible_;
+  form.visible_ = true;
+  form.modal_ = mode == ShowMode::Modal;
+  if (form.modal_) modals_.push_back(&form);
+  if (!wasVisible) platform().formShown(form);
+  activate(form);
+  if (mode == ShowMode::Modal && form.visible_) platform().runModal(form);
+}
+
+void Desk::hide(Form& form) {
+  if (!form.visible_) return;
+  const Event event;
+  form.visible_ = false;
+  form.modal_ = false;
+  std::erase(modals_, &form);
+  if (focused_ != nullptr && &focused_->form() == &form) focus(nullptr);
+  platform().formHidden(form);
+  if (active_ != &form) return;
+  active_ = nullptr;
+  form.deactivated();
+  if (active_ == nullptr && !ended_) activateFront();
+}
+
+void Desk::activateFront() {
+  if (modal() != nullptr) {
+    activate(*modal());
+    return;
+  }
+  const auto front = std::find_if(forms_.begin(), forms_.end(), [](const Form* form) { return form->visible(); });
+  if (front != forms_.end()) activate(**front);
+}
+
+void Desk::activate(Form& form) {
+  if (!form.visible_) return;
+  raise(form);
+  if (active_ == &form) return;
+  const Event event;
+  focus(nullptr);
+  if (!form.visible_ || active_ == &form) return;  // a handler of the lost focus had its own ideas
+  if (active_ != nullptr) {
+    Form& before = *active_;
+    active_ = nullptr;
+    before.deactivated();
+  }
+  active_ = &form;
+  platform().orderChanged();
+  form.activated();
+  Control* control = form.activeControl_;
+  if (active_ == &form && control != nullptr && control->shown() && control->usable()) focus(control);
+}
+
+void Desk::focus(Control* control) {
+  if (focused_ == control) return;
+  const Event event;
+  Control* before = focused_;
+  focused_ = nullptr;
+  if (before != nullptr) {
+    before->markChanged();
+    if (before->onLostFocus) before->onLostFocus();
+  }
+  // The handler may have given the focus away itself, or hidden the control that was to have it.
+  if (control == nullptr || focused_ != nullptr || !control->shown() || !control->usable()) return;
+  focused_ = control;
+  control->form().activeControl_ = control;
+  control->markChanged();
+  if (control->onGotFocus) control->onGotFocus();
+}
+
+void Desk::focusHidden(const Control& control) {
+  if (focused_ == nullptr || !within(*focused_, control)) return;
+  focused_->form().activeControl_ = nullptr;
+  focus(nullptr);
+}
+
+void Desk::drop(Form& form) {
+  const Event event;
+  hide(form);
+  for (Control* control : form.controls_) {
+    if (control->kind() == ControlKind::Timer) timers.stop(static_cast<Timer&>(*control));
+  }
+  for (Form* other : forms_) {
+    if (other->owner_ == &form) other->owner_ = nullptr;
+  }
+  std::erase(forms_, &form);
+  platform().formUnloaded(form);
+  dropped_.push_back(std::move(placeOf(form).form_));
+}
+
+void Desk::end() {
+  const Event event;
+  ended_ = true;
+  while (!forms_.empty()) {
+    forms_.front()->unloading();
+    drop(*forms_.front());
+  }
+  platform().ended();
+}
+
+void Desk::clear() {
+  const Event event;
+  while (!forms_.empty())
+    drop(*forms_.front());
+  active_ = nullptr;
+  focused_ = nullptr;
+  ended_ = false;
+}
+
+}  // namespace zelvs

@@ -1,0 +1,181 @@
+#include "ui/form.h"
+
+#include <algorithm>
+
+#include "ui/desk.h"
+#include "ui/platform.h"
+#include "ui/runTimeError.h"
+
+namespace zelvs {
+
+Form::Form(std::string_view name, FormKind kind, Border border) : name_(name), kind_(kind), border_(border) {}
+
+void Form::show(ShowMode mode, Form* owner) {
+  desk().show(*this, mode, owner);
+}
+
+void Form::hide() {
+  desk().hide(*this);
+}
+
+bool Form::close(bool byUser) {
+  const Desk::Event event;
+  if (!queryUnload(byUser)) return false;
+  if (desk().ended()) return true;
+  unloading();
+  desk().drop(*this);
+  return true;
+}
+
+void Form::bringToFront() {
+  desk().raise(*this);
+}
+
+void Form::setFocus() {
+  desk().activate(*this);
+}
+
+void Form::repaint() {
+  platform().repaint(*this);
+}
+
+void Form::setTopmost() {
+  topmost_ = true;
+  desk().raise(*this);
+  platform().formChanged(*this);
+}
+
+void Form::setFloating(bool floating) {
+  floating_ = floating;
+  desk().raise(*this);
+  platform().formChanged(*this);
+}
+
+void Form::move(double left, double top) {
+  Left = left;
+  Top = top;
+}
+
+double Form::clientHeight() const {
+  return Height - (border_ == Border::None ? 0 : platform().captionHeight());
+}
+
+double Form::insideLeft() const {
+  const Form* frame = kind_ == FormKind::Child ? desk().frame() : nullptr;
+  return Left + (frame != nullptr ? frame->insideLeft() : 0);
+}
+
+double Form::insideTop() const {
+  const Form* frame = kind_ == FormKind::Child ? desk().frame() : nullptr;
+  const double above = frame != nullptr ? frame->insideTop() + frame->barHeight() : 0;
+  return above + Top + (Height - clientHeight());
+}
+
+void Form::join(Control& control) {
+  controls_.push_back(&control);
+  topControls_.push_back(&control);
+}
+
+std::vector<Control*>& Form::siblingsOf(const Control& control) {
+  return control.container_ != nullptr ? control.container_->children_ : topControls_;
+}
+
+Control* Form::find(std::string_view name, int index) const {
+  const auto found = std::find_if(controls_.begin(), controls_.end(), [&](const Control* control) {
+    return control->index() == index && control->name() == name;
+  });
+  return found == controls_.end() ? nullptr : *found;
+}
+
+bool Form::hasArray(std::string_view name) const {
+  return std::any_of(controls_.begin(), controls_.end(),
+                     [&](const Control* control) { return control->index() >= 0 && control->name() == name; });
+}
+
+namespace {
+
+bool canBeHit(const Control& control) {
+  return control.Visible && control.kind() != ControlKind::Line && control.kind() != ControlKind::Timer &&
+         control.kind() != ControlKind::Sound;
+}
+
+Control* frontAt(const std::vector<Control*>& siblings, double x, double y) {
+  for (auto at = siblings.rbegin(); at != siblings.rend(); ++at) {
+    Control& control = **at;
+    if (!canBeHit(control) || !control.area().contains(x, y)) continue;
+    Control* inside = frontAt(control.children(), x, y);
+    return inside != nullptr ? inside : &control;
+  }
+  return nullptr;
+}
+
+}  // namespace
+
+Control* Form::controlAt(double x, double y) const {
+  return frontAt(topControls_, x, y);
+}
+
+void Form::markChanged(Control& control) {
+  control.changed_ = true;
+  control.nextChanged_ = firstChanged_;
+  const bool first = firstChanged_ == nullptr;
+  firstChanged_ = &control;
+  if (first) platform().controlsChanged(*this);
+}
+
+std::vector<Control*> Form::takeChanged() {
+  std::vector<Control*> changed;
+  for (Control* control = firstChanged_; control != nullptr; control = control->nextChanged_) {
+    control->changed_ = false;
+    changed.push_back(control);
+  }
+  firstChanged_ = nullptr;
+  return changed;
+}
+
+void Form::propertyChanged(const void* property) {
+  if (property == &Tag) return;
+  platform().formChanged(*this);
+  if (property == &Width || property == &Height) resized();
+}
+
+namespace {
+
+std::vector<FormPlace*>& places() {
+  static std::vector<FormPlace*>& all = *new std::vector<FormPlace*>;
+  return all;
+}
+
+}  // namespace
+
+FormPlace::FormPlace(std::string_view name, FormKind kind) : name_(name), kind_(kind) {
+  places().push_back(this);
+}
+
+const std::vector<FormPlace*>& FormPlace::all() {
+  return places();
+}
+
+FormPlace* FormPlace::named(std::string_view name) {
+  const auto found =
+      std::find_if(all().begin(), all().end(), [&](const FormPlace* place) { return place->name() == name; });
+  return found == all().end() ? nullptr : *found;
+}
+
+void FormPlace::load() {
+  if (loaded()) return;
+  const Desk::Event event;
+  if (kind_ == FormKind::Child) {
+    // A child brings its frame with it.
+    for (FormPlace* place : all()) {
+      if (place->kind() == FormKind::Frame) place->load();
+    }
+  }
+  form_ = make();
+  Form& form = *form_;
+  desk().loaded(form);
+  platform().formLoaded(form);
+  form.load();
+}
+
+}  // namespace zelvs

@@ -1,0 +1,179 @@
+#pragma once
+
+#include <memory>
+#include <string>
+#include <string_view>
+#include <variant>
+#include <vector>
+
+#include "ui/control.h"
+
+namespace zelvs {
+
+/// Frame: the one window that holds the children. Child: inside the frame's client area. Window: stands by itself.
+enum class FormKind { Frame, Child, Window };
+enum class Border { None, Fixed, Sizable };
+enum class ShowMode { Modeless, Modal };
+
+/// A window. It is made and loaded at the first touch through its FormRef, shown and hidden any number of times, and
+/// dropped when it is unloaded: the next touch makes a new one.
+class Form : public PropertyOwner {
+ public:
+  Form(std::string_view name, FormKind kind, Border border);
+  Form(const Form&) = delete;
+  Form& operator=(const Form&) = delete;
+  virtual ~Form() = default;
+
+  Property<std::string> Tag{this};
+  Property<std::string> Caption{this};
+  /// Outer place in twips: a child's on the frame's client area, any other's on the screen. The caption bar counts in
+  /// Height (Platform::captionHeight), side borders count as nothing.
+  Property<double> Left{this};
+  Property<double> Top{this};
+  Property<double> Width{this, 6000};
+  Property<double> Height{this, 4000};
+  Property<Colour> BackColor{this, kButtonFace};
+
+  const std::string& name() const { return name_; }
+  FormKind kind() const { return kind_; }
+  Border border() const { return border_; }
+  bool visible() const { return visible_; }
+  bool modal() const { return modal_; }
+  bool topmost() const { return topmost_; }
+  /// A child that has left the client area for the frame itself, so that it stays in front of the other children.
+  bool floating() const { return floating_; }
+  Form* owner() const { return owner_; }
+  Control* activeControl() const { return activeControl_; }
+
+  /// Shows the form, brings it to the front and activates it. A modal one returns when it is hidden again; it is an
+  /// error to show a form modally that is visible.
+  void show(ShowMode mode = ShowMode::Modeless, Form* owner = nullptr);
+  void hide();
+  /// Goes through unless QueryUnload refuses. The form must not be touched afterwards.
+  void unload() { close(false); }
+  /// Unloads, byUser when the close box asks. False when QueryUnload refused.
+  bool close(bool byUser);
+  void bringToFront();
+  /// Gives the form the focus.
+  void setFocus();
+  /// Paints what has changed at once rather than at the next return to the event loop.
+  void repaint();
+  void setTopmost();
+  void setFloating(bool floating);
+  void move(double left, double top);
+
+  double clientWidth() const { return Width; }
+  /// Twips per unit of the scale that the form's controls are placed in: 1, or 15 for pixels.
+  double unit() const { return unit_; }
+  double clientHeight() const;
+  /// Where the left top corner of the form's inside lies on the screen, in twips.
+  double insideLeft() const;
+  double insideTop() const;
+  /// What a frame keeps for its tool bar above the children's area, in twips.
+  virtual double barHeight() const { return 0; }
+
+  /// All controls, in the order of their making.
+  const std::vector<Control*>& controls() const { return controls_; }
+  /// Those that no other control holds, back to front.
+  const std::vector<Control*>& topControls() const { return topControls_; }
+  Control* find(std::string_view name, int index) const;
+  bool hasArray(std::string_view name) const;
+  /// The control in front at a place in twips on the form's inside, or null. Hidden ones are looked through.
+  Control* controlAt(double x, double y) const;
+
+  /// A public number of the form that the script may look at by its name.
+  using Member = std::variant<const std::int16_t*, const std::string*>;
+  const std::vector<std::pair<std::string, Member>>& members() const { return members_; }
+
+  /// Takes the controls that have changed since the last call, in no given order.
+  std::vector<Control*> takeChanged();
+
+  void propertyChanged(const void* property) override;
+
+  /// What the form itself does with a click beside its controls.
+  virtual void click() {}
+
+ protected:
+  virtual void load() {}
+  virtual void activated() {}
+  virtual void deactivated() {}
+  virtual void resized() {}
+  /// Return false to refuse. byUser: the close box, not the program, asks.
+  virtual bool queryUnload(bool /*byUser*/) { return true; }
+  virtual void unloading() {}
+  void setUnit(double twips) { unit_ = twips; }
+  void addMember(std::string name, Member member) { members_.emplace_back(std::move(name), member); }
+
+ private:
+  friend class Control;
+  friend class Desk;
+  friend class FormPlace;
+  void join(Control& control);
+  std::vector<Control*>& siblingsOf(const Control& control);
+  void markChanged(Control& control);
+
+  std::string name_;
+  FormKind kind_;
+  Border border_;
+  double unit_ = 1;
+  bool visible_ = false;
+  bool modal_ = false;
+  bool topmost_ = false;
+  bool floating_ = false;
+  Form* owner_ = nullptr;
+  Control* activeControl_ = nullptr;
+  std::vector<Control*> controls_;
+  std::vector<Control*> topControls_;
+  std::vector<std::pair<std::string, Member>> members_;
+  Control* firstChanged_ = nullptr;
+};
+
+/// The place where a form is reached by its name, loaded or not.
+class FormPlace {
+ public:
+  FormPlace(std::string_view name, FormKind kind);
+  FormPlace(const FormPlace&) = delete;
+  FormPlace& operator=(const FormPlace&) = delete;
+
+  const std::string& name() const { return name_; }
+  FormKind kind() const { return kind_; }
+  bool loaded() const { return form_ != nullptr; }
+  bool visible() const { return form_ != nullptr && form_->visible(); }
+  Form* form() const { return form_.get(); }
+  /// Does nothing when the form is loaded.
+  void load();
+
+  /// Every form of the program, in no given order.
+  static const std::vector<FormPlace*>& all();
+  static FormPlace* named(std::string_view name);
+
+ protected:
+  virtual std::unique_ptr<Form> make() const = 0;
+  ~FormPlace() = default;
+
+ private:
+  friend class Desk;
+  std::string name_;
+  FormKind kind_;
+  std::unique_ptr<Form> form_;
+};
+
+/// frmHard-> loads frmHard at the first touch. T names its kind in T::kKind.
+template <class T>
+class FormRef final : public FormPlace {
+ public:
+  explicit FormRef(std::string_view name) : FormPlace(name, T::kKind) {}
+
+  T* operator->() { return get(); }
+  T& operator*() { return *get(); }
+  T* get() {
+    if (!loaded()) [[unlikely]]
+      load();
+    return static_cast<T*>(form());
+  }
+
+ private:
+  std::unique_ptr<Form> make() const override { return std::make_unique<T>(); }
+};
+
+}  // namespace zelvs

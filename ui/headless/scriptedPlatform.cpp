@@ -1,0 +1,47 @@
+#include "ui/headless/scriptedPlatform.h"
+
+#include <algorithm>
+#include <array>
+#include <fstream>
+#include <string_view>
+
+#include "ui/desk.h"
+
+namespace zelvs {
+
+void ScriptedPlatform::advance(std::int64_t milliseconds) {
+  const std::int64_t end = clock_ + milliseconds;
+  for (auto due = desk().timers.nextDue(); due && *due <= end; due = desk().timers.nextDue()) {
+    clock_ = std::max(clock_, *due);
+    desk().timers.fireNext(clock_);
+  }
+  // A modal window inside a handler may have moved the clock past the end already.
+  clock_ = std::max(clock_, end);
+}
+
+void ScriptedPlatform::yield() {
+  while (desk().timers.fireNext(clock_)) {
+  }
+}
+
+void ScriptedPlatform::runModal(Form& form) {
+  if (onModal) onModal(form);
+}
+
+bool ScriptedPlatform::messageBox(const std::string& title, const std::string& text, MessageIcon /*icon*/,
+                                  MessageButtons buttons) {
+  return onMessageBox && onMessageBox(title, text, buttons);
+}
+
+bool ScriptedPlatform::openSound(const std::string& path) {
+  return isWaveFile(path);
+}
+
+bool isWaveFile(const std::string& path) {
+  std::ifstream file(path, std::ios::binary);
+  std::array<char, 12> head{};
+  file.read(head.data(), head.size());
+  return file && std::string_view(head.data(), 4) == "RIFF" && std::string_view(head.data() + 8, 4) == "WAVE";
+}
+
+}  // namespace zelvs

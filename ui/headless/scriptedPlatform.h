@@ -1,0 +1,52 @@
+#pragma once
+
+#include <functional>
+#include <string>
+
+#include "ui/platform.h"
+
+namespace zelvs {
+
+/// A platform whose user is a program: a virtual clock that stands still until it is moved, a pointer that is put
+/// somewhere, and hooks for what waits on the user.
+class ScriptedPlatform : public Platform {
+ public:
+  std::int64_t now() override { return clock_; }
+  /// Moves the clock, firing each timer at its due time.
+  void advance(std::int64_t milliseconds);
+
+  void yield() override;
+  void runModal(Form& form) override;
+  bool messageBox(const std::string& title, const std::string& text, MessageIcon icon, MessageButtons buttons) override;
+
+  Point pointer() override { return pointer_; }
+  void setPointer(Point pointer) { pointer_ = pointer; }
+
+  void systemBeep() override { ++beeps_; }
+  bool openSound(const std::string& path) override;
+  void playSound() override { ++beeps_; }
+  /// How often the sound was played or the system beep sounded.
+  int beeps() const { return beeps_; }
+
+  /// Does what the user does until the form is hidden.
+  std::function<void(Form& form)> onModal;
+  /// Answers a message box. True: OK.
+  std::function<bool(const std::string& title, const std::string& text, MessageButtons buttons)> onMessageBox;
+
+ private:
+  std::int64_t clock_ = 0;
+  Point pointer_;
+  int beeps_ = 0;
+};
+
+/// No display at all: 1920 by 1080 pixels, a caption bar of 300 twips.
+class HeadlessPlatform final : public ScriptedPlatform {
+ public:
+  Screen screen() override { return {1920, 1080}; }
+  double captionHeight() override { return 300; }
+};
+
+/// True when the file starts as a RIFF wave file does.
+bool isWaveFile(const std::string& path);
+
+}  // namespace zelvs

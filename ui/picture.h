@@ -1,0 +1,56 @@
+#pragma once
+
+#include <string>
+#include <vector>
+
+namespace zelvs {
+
+class ImageList;
+
+/// A picture that stands in a file. Sizes are in pixels, read from the file's head.
+struct PictureFile {
+  std::string path;
+  std::string name;  ///< the file's name without its folder
+  int width = 0;
+  int height = 0;
+};
+
+/// What a control shows: nothing, image N of an image list (N from 1), or a file's picture. Cheap to copy and compare.
+struct Picture {
+  const ImageList* list = nullptr;
+  int image = 0;
+  const PictureFile* file = nullptr;
+
+  bool none() const { return list == nullptr && file == nullptr; }
+  friend bool operator==(const Picture&, const Picture&) = default;
+};
+
+/// Images by number, from 1. The pixels belong to the view: it looks for them under the list's name, in the file
+/// that the program carries, or takes them from the files that were added.
+class ImageList {
+ public:
+  ImageList(std::string name, int count) : name_(std::move(name)), count_(count) {}
+  ImageList(const ImageList&) = delete;
+  ImageList& operator=(const ImageList&) = delete;
+
+  /// Image number 1..count(); any other number is a run-time error that names the list and the number.
+  Picture image(int number) const;
+  int count() const { return count_; }
+  const std::string& name() const { return name_; }
+
+  void clear();
+  /// Adds a file's picture behind the others.
+  void add(const Picture& picture);
+  /// The file behind an image that was added; null for an image that the program carries.
+  const PictureFile* fileOf(int number) const;
+
+ private:
+  std::string name_;
+  int count_;
+  std::vector<const PictureFile*> added_;
+};
+
+/// Opens a Windows bitmap file. A file that is missing or is no bitmap is a run-time error that names the file.
+Picture loadPicture(const std::string& path);
+
+}  // namespace zelvs
