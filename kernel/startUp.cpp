@@ -1,0 +1,98 @@
+#include "kernel/startUp.h"
+
+#include <cmath>
+#include <string>
+
+#include "kernel/beep.h"
+#include "kernel/resets.h"
+#include "kernel/state.h"
+#include "monitor/frmRegister.h"
+#include "panel/frmHard.h"
+#include "shell/frmMDI.h"
+#include "shell/frmVersion.h"
+#include "shell/iniFile.h"
+#include "ui/desk.h"
+#include "ui/platform.h"
+#include "ui/utf8.h"
+
+namespace zelvs {
+
+namespace {
+
+/// The scan that runs after a start, whatever stations the boards are set to.
+constexpr std::uint8_t kFirstFinalStation = 5;
+
+void showAtOnce(Form& form, Form* owner = nullptr) {
+  form.show(ShowMode::Modeless, owner);
+  form.repaint();
+  yieldToEvents();
+}
+
+}  // namespace
+
+void startUp() {
+  const Desk::Event event;
+  readIniFile();
+  openBeepDevice();  // the first touch of the panel, which loads here with its frame and takes the settings
+  frmHard->setFormWidth();
+  frmVersion->show();
+  frmVersion->repaint();
+  frmVersion->lblProcess(0).Visible = true;
+  frmVersion->lblProcess(1).Width = 0;
+  frmVersion->lblProcess(1).Visible = true;
+  yieldToEvents();
+  loadWindows();
+  showProcessMessage("ナビゲーションウィンドウ設定中です。");
+  startupDone = kTrue;
+  resetCenterRegisters();
+  // Until here the registers were all 0, so that ticks during the loading found no scan to run.
+  chipMemory[kScrLow] = kFirstFinalStation;
+  frmVersion->hideVersion();
+}
+
+void loadWindows() {
+  showProcessMessage("メインウィンドウロード中です。");
+  frmMDI->show();
+  showProcessMessage("ハードウェアウィンドウロード中です。");
+  frmHard->move(0, 0);
+  showAtOnce(*frmHard);
+  showProcessMessage("レジスタウィンドウロード中です。");
+  frmRegister.load();
+  if (openWindow[1] != 0) showAtOnce(*frmRegister, frmMDI.get());
+  // One message for each of the three memory windows.
+  showProcessMessage("メモリウィンドウロード中です。");
+  showProcessMessage("メモリウィンドウロード中です。");
+  showProcessMessage("メモリウィンドウロード中です。");
+  showProcessMessage("メモリ処理中です。");
+  if (memoryClear != 0) {
+    clearChipMemory();
+  } else {
+    randomizeChipMemory();
+  }
+  resetSimulationState();
+  placeWindows();
+  showProcessMessage("レジスタヒントウィンドウロード中です。");
+}
+
+void placeWindows() {
+  frmRegister->move(6800, 1100);
+}
+
+void showProcessMessage(std::string_view text) {
+  constexpr int kLineLength = 33;
+  constexpr std::string_view kIdeographicSpace = "\u3000";
+  const int length = static_cast<int>(charactersOf(text).size());
+  std::string padded;
+  for (int pad = static_cast<int>(std::nearbyint((kLineLength - length) / 2.0)); pad > 0; --pad) {
+    padded += kIdeographicSpace;
+  }
+  padded += text;
+  constexpr int kLastStep = 8;
+  if (processStep < kLastStep) ++processStep;
+  frmVersion->lblProcess(0).Caption = padded;
+  frmVersion->lblProcess(1).Caption = padded;
+  frmVersion->lblProcess(1).Width = frmVersion->lblProcess(0).Width * processStep / kLastStep;
+  frmVersion->repaint();
+}
+
+}  // namespace zelvs

@@ -1,0 +1,31 @@
+#pragma once
+
+#include "ui/controls.h"
+#include "ui/form.h"
+#include "ui/timer.h"
+
+namespace zelvs {
+
+/// The eight registers of the center chip, live. Rows count from 1; row 9 stands below the visible part without
+/// function.
+class FrmRegister final : public Form {
+ public:
+  static constexpr FormKind kKind = FormKind::Window;
+  FrmRegister();
+
+  Label lblVal{this, "lblVal"};
+  Label lblBin{this, "lblBin"};
+  ControlArray<Label> lblReg{this, "lblReg", 0, 9};  // 0: the heading
+  ControlArray<Label> lblValH{this, "lblValH", 1, 9};
+  ControlArray<Label> lblValL{this, "lblValL", 1, 9};
+  ControlArray<Label> lblBinH{this, "lblBinH", 1, 9};
+  ControlArray<Label> lblBinL{this, "lblBinL", 1, 9};
+  Timer timRegister{this, "timRegister"};
+
+ protected:
+  void load() override;
+};
+
+inline FormRef<FrmRegister> frmRegister{"frmRegister"};
+
+}  // namespace zelvs

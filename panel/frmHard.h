@@ -1,0 +1,131 @@
+#pragma once
+
+#include <string_view>
+
+#include "ui/controls.h"
+#include "ui/form.h"
+#include "ui/timer.h"
+
+namespace zelvs {
+
+/// The panel with the seven boards. Much of the simulated hardware's state lives in these controls: a cable is
+/// plugged because a connector's Tag is "1", a slave is there because its cable is visible, a pin is an output
+/// because its Tag begins with "O". A Tag that nobody has written is empty, which is told from "0".
+///
+/// Boards by index of picBoard: 0 center, 1 to 4 QVT40 (2 and 4 the slaves of 1 and 3), 5 QVT50, 6 its motor board.
+/// Pins of board k: 16 (k - 1) + bit; counter buttons of board k: 6 (k - 1) + counter, counted from 0.
+class FrmHard final : public Form {
+ public:
+  static constexpr FormKind kKind = FormKind::Child;
+  FrmHard();
+
+  // Pictures. What the panel stores is the image number.
+  ImageList ilsTriangle{"ilsTriangle", 9};  // 4 (1 - motorReverse) + triangleFrame
+  ImageList ilsCount{"ilsCount", 4};        // counter button up, down, CLR button up, down
+  ImageList ilsInt{"ilsInt", 4};            // no line, INT0, INT1, both
+  ImageList ilsJumper{"ilsJumper", 2};      // full, half
+  ImageList ilsNOISE{"ilsNOISE", 2};        // up, down
+  ImageList ilsRESET{"ilsRESET", 2};        // up, down
+  ImageList ilsCable{"ilsCable", 4};        // upper end unplugged, plugged, lower end unplugged, plugged
+  ImageList ilsLED_R{"ilsLED_R", 2};        // dark, lit
+  ImageList ilsLED_G{"ilsLED_G", 2};        // dark, lit
+  ImageList ilsRSW{"ilsRSW", 16};           // digit + 1
+  ImageList ilsDIP1{"ilsDIP1", 4};          // input switch off, on, setting switch low, high
+  ImageList ilsDIP3{"ilsDIP3", 8};          // IOS mode + 1
+  ImageList ilsMotor{"ilsMotor", 11};       // 1 to 3 belt frames, 4 to 11 duty levels
+
+  // Boards
+  ControlArray<Shape> picShadow{this, "picShadow", 0, 6};
+  ControlArray<PictureBox> picBoard{this, "picBoard", 0, 6};
+  ControlArray<Label> lblBoardName{this, "lblBoardName", {0, 1, 2, 3, 4, 5, 7}};
+  ControlArray<Label> lblSatteliteNo{this, "lblSatteliteNo", 0, 4};
+  ControlArray<PictureBox> picQVT{this, "picQVT", 0, 5};
+  ControlArray<PictureBox> picReset{this, "picReset", 0, 5};
+  ControlArray<Frame> fraCounter{this, "fraCounter", 0, 4};
+  ControlArray<Frame> fraPIO{this, "fraPIO", 0, 4};
+
+  // Settings. Clock and jumper: 0 center, 1 board 1, 2 board 3, 3 board 5.
+  ControlArray<PictureBox> picClock{this, "picClock", 0, 3};
+  ControlArray<ComboBox> cmbClock{this, "cmbClock", 0, 3};
+  ControlArray<Label> lblClock{this, "lblClock", 0, 3};
+  ControlArray<PictureBox> picJumper{this, "picJumper", 0, 3};
+  ControlArray<Label> lblHF{this, "lblHF", 0, 3};
+  ControlArray<ComboBox> cmbSA{this, "cmbSA", 0, 2};    // boards 1, 3, 5
+  ControlArray<PictureBox> picSA{this, "picSA", 0, 5};  // high and low digit of boards 1, 3, 5
+  PictureBox picCPU{this, "picCPU"};
+  ComboBox cmbCPUType{this, "cmbCPUType"};
+  PictureBox picIOS{this, "picIOS"};
+  ComboBox cmbIOS{this, "cmbIOS"};
+  PictureBox picMode{this, "picMode"};
+  ComboBox cmbMode{this, "cmbMode"};
+  PictureBox picBPSS{this, "picBPSS"};
+  Label lblPBPSS{this, "lblPBPSS"};
+
+  // Line. Terminators and drivers: 0 and 1 the center's two ports, 2 board 1, 3 board 3, 4 board 5.
+  ControlArray<PictureBox> picTermR{this, "picTermR", 0, 4};
+  ControlArray<Label> lblRt{this, "lblRt", 0, 4};
+  ControlArray<PictureBox> picTRX{this, "picTRX", 0, 4};
+  ControlArray<PictureBox> picPTR{this, "picPTR", 0, 9};  // the odd ones serve full duplex only
+  ControlArray<PictureBox> picBOARD1_RXD{this, "picBOARD1_RXD", 0, 1};
+  ControlArray<PictureBox> picBOARD2_RXD{this, "picBOARD2_RXD", 0, 5};  // 0, 1 board 1; 2, 3 board 3; 4, 5 board 5
+  ControlArray<PictureBox> picFConn{this, "picFConn", 0, 3};            // slave connector of board index + 1
+
+  // Inputs and outputs of boards 1 to 4
+  ControlArray<PictureBox> picSerialInt{this, "picSerialInt", 0, 3};
+  ControlArray<PictureBox> picSE{this, "picSE", 0, 3};
+  ControlArray<PictureBox> picSDI{this, "picSDI", 0, 3};
+  ControlArray<PictureBox> picPO{this, "picPO", 0, 63};
+
+  // Inputs and outputs of boards 1 to 5
+  ControlArray<PictureBox> picCLR{this, "picCLR", 0, 4};
+  ControlArray<PictureBox> picSSA{this, "picSSA", 0, 4};
+  ControlArray<PictureBox> picSSB{this, "picSSB", 0, 4};
+  ControlArray<PictureBox> picSTB{this, "picSTB", 0, 9};           // DO strobe, DI strobe of each board
+  ControlArray<PictureBox> picCounter{this, "picCounter", 0, 25};  // 24 count and 25 clear of board 5
+  ControlArray<PictureBox> picPI{this, "picPI", 0, 79};            // 64 to 79: the pins of board 5
+
+  // Center board
+  PictureBox picScanLed{this, "picScanLed"};
+  ControlArray<PictureBox> picChkLED{this, "picChkLED", 0, 1};
+  ControlArray<Label> lblB1_LED{this, "lblB1_LED", {0, 1, 2, 5}};
+  PictureBox picInt{this, "picInt"};
+  ControlArray<Label> lblMaker{this, "lblMaker", 0, 1};
+
+  // Board 5 and its motor board
+  ControlArray<PictureBox> picB1_LED{this, "picB1_LED", {5}};
+  ControlArray<PictureBox> picCW{this, "picCW", 0, 3};
+  ControlArray<Label> lblPWMTitle{this, "lblPWMTitle", 0, 3};
+  ControlArray<Label> lblPWMSSA{this, "lblPWMSSA", 0, 1};
+  Label lblSTB2{this, "lblSTB2"};
+  PictureBox picPWMBridge{this, "picPWMBridge"};
+  PictureBox picPWM{this, "picPWM"};
+  Image imgBelt{this, "imgBelt"};
+  PictureBox picTriangle{this, "picTriangle"};
+  ControlArray<PictureBox> picPower{this, "picPower", 0, 5};
+
+  // Table
+  ControlArray<PictureBox> picBridge{this, "picBridge", 0, 1};
+  ControlArray<PictureBox> picCableRole{this, "picCableRole", 0, 2};
+  ControlArray<PictureBox> picCableUp{this, "picCableUp", 0, 2};
+  ControlArray<PictureBox> picCableDn{this, "picCableDn", 0, 2};
+  PictureBox picNoise{this, "picNoise"};
+
+  Timer timMotor{this, "timMotor"};
+  Timer timSE{this, "timSE"};
+  Sound mmcBeep{this, "mmcBeep"};
+
+  /// Makes the panel as wide as what it has to show, shows it anew and checks the station addresses.
+  void setFormWidth();
+  /// Moves all lists to the stored settings, once, while the panel loads.
+  void initCombo();
+  /// Warns of the first two boards on the line that have one station address.
+  void chkSADup();
+
+ protected:
+  void load() override;
+  void activated() override;
+};
+
+inline FormRef<FrmHard> frmHard{"frmHard"};
+
+}  // namespace zelvs

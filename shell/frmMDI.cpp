@@ -1,0 +1,126 @@
+#include "shell/frmMDI.h"
+
+#include "kernel/beep.h"
+#include "kernel/simulation.h"
+#include "kernel/state.h"
+#include "kernel/tick.h"
+#include "monitor/frmRegister.h"
+#include "shell/frmVersion.h"
+#include "ui/desk.h"
+#include "ui/platform.h"
+
+namespace zelvs {
+
+namespace {
+
+constexpr double kToolBoxHeight = 225;
+constexpr Colour kVersionGround = 0xF6FFE9;
+constexpr Colour kPink = 0xC0C0FF;
+
+/// One label of the tool bar, from left to right; widths and gaps in pixels.
+struct ToolBarRow {
+  Label& label;
+  std::string_view caption;
+  double width;
+  Colour ground;
+  int pointer;  // image of ilsMouse, 0: none
+};
+
+void selectRunMode(int index) {
+  frmMDI->lblRunMode_Click(index);
+}
+
+void moveOverRunMode(int index) {
+  // In 1-Time nothing ticks: the mouse lets the windows catch up without a step.
+  (void)index;
+  if (runMode == kOneTime) timTick_Timer();
+}
+
+void lblRegisterWindow_Click() {
+  frmRegister->show(ShowMode::Modeless, frmMDI.get());
+  frmRegister->bringToFront();
+}
+
+void lblVersion_Click() {
+  frmVersion->show();
+  frmVersion->repaint();
+  yieldToEvents();
+}
+
+}  // namespace
+
+FrmMDI::FrmMDI() : Form("frmMDI", kKind, Border::Sizable) {
+  Caption = "ZEL-VS";
+  BackColor = 0x808080;
+  Width = platform().screen().width * kTwipsPerPixel;
+  Height = platform().screen().height * kTwipsPerPixel;
+
+  ToolBox.setUnit(kTwipsPerPixel);
+  ToolBox.move(0, 0, Width, kToolBoxHeight);
+  const ToolBarRow rows[] = {
+      {lblSimulationTick, "Simurator Mode", 153, kModeFree, 0},
+      {lblRunMode(0), kRunModes[0].caption, 48, kModeSelected, 1},
+      {lblRunMode(1), kRunModes[1].caption, 48, kModeFree, 1},
+      {lblRunMode(2), kRunModes[2].caption, 48, kModeFree, 1},
+      {lblRunMode(3), kRunModes[3].caption, 48, kModeFree, 1},
+      {lblMemoryWindow, "Memory Window", 100, kModeFree, 1},
+      {lblRegisterWindow, "Register Window", 112, kModeFree, 1},
+      {lblRegisterHint, "Register Hint", 100, kModeFree, 1},
+      {lblVersion, "Version", 64, kVersionGround, 1},
+      {lblDefault, "Simurator Default Set", 148, kModeFree, 1},
+      {lblNagigator, "Navigator", 80, kPink, 2},
+  };
+  constexpr double kGap = 2;
+  double left = 0;
+  for (const ToolBarRow& row : rows) {
+    row.label.placeIn(ToolBox);
+    row.label.Caption = row.caption;
+    row.label.FontSize = 8;
+    row.label.Align = Alignment::Center;
+    row.label.Transparent = false;
+    row.label.BackColor = row.ground;
+    row.label.move(left, 0, row.width, kToolBoxHeight / kTwipsPerPixel);
+    if (row.pointer != 0) {
+      row.label.MousePointer = kCustomPointer;
+      row.label.MouseIcon = ilsMouse.image(row.pointer);
+    }
+    left += row.width + kGap;
+  }
+  shpTick.placeIn(ToolBox);
+  shpTick.BackColor = kPink;
+  shpTick.ForeColor = kPink;
+  shpTick.move(0, 0, kRunModes[0].markerWidth, kToolBoxHeight / kTwipsPerPixel);
+
+  lblRunMode.on(&Control::onClick, selectRunMode);
+  lblRunMode.on(&Control::onMouseMove, moveOverRunMode);
+  lblRegisterWindow.onClick = lblRegisterWindow_Click;
+  lblVersion.onClick = lblVersion_Click;
+  timTick.onTimer = timTick_Timer;
+}
+
+void FrmMDI::load() {
+  timTick.Interval = kRunModes[kRun].interval;
+}
+
+void FrmMDI::lblRunMode_Click(int index) {
+  for (Label& label : lblRunMode)
+    label.BackColor = label.index() == index ? kModeSelected : kModeFree;
+  const RunModeRow& mode = kRunModes[static_cast<std::size_t>(index)];
+  runMode = static_cast<std::int16_t>(index);
+  timTick.Interval = mode.interval;
+  shpTick.Width = mode.markerWidth;
+  if (index != kOneTime) return;
+  playBeep();
+  simulationStep();
+  moveTickMarker();
+  refreshWindows();
+}
+
+bool FrmMDI::queryUnload(bool /*byUser*/) {
+  const bool confirmed = platform().messageBox("ZELVS終了確認", "アプリケーションを終了します。よろしいですか？",
+                                               MessageIcon::Question, MessageButtons::OkCancel);
+  if (confirmed) desk().end();
+  return confirmed;
+}
+
+}  // namespace zelvs

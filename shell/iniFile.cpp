@@ -1,0 +1,260 @@
+#include "shell/iniFile.h"
+
+#include <algorithm>
+#include <array>
+#include <charconv>
+#include <cmath>
+#include <cstdint>
+#include <cstdio>
+#include <filesystem>
+#include <fstream>
+#include <optional>
+
+#include "kernel/state.h"
+
+namespace zelvs {
+
+namespace fs = std::filesystem;
+
+namespace {
+
+constexpr std::size_t kLongestValue = 255;
+constexpr std::string_view kByteOrderMark = "\xEF\xBB\xBF";
+
+std::string readWhole(const std::string& path) {
+  // Anything but a plain file (a folder, a pipe that nobody writes to) counts as no file.
+  std::error_code error;
+  if (!fs::is_regular_file(path, error)) return {};
+  std::ifstream file(path, std::ios::binary);
+  std::string text;
+  text.resize(static_cast<std::size_t>(fs::file_size(path, error)));
+  file.read(text.data(), static_cast<std::streamsize>(text.size()));
+  text.resize(static_cast<std::size_t>(std::max<std::streamsize>(file.gcount(), 0)));
+  return text;
+}
+
+std::string_view trimmed(std::string_view text) {
+  const auto blank = [](char c) { return c == ' ' || c == '\t' || c == '\r'; };
+  while (!text.empty() && blank(text.front()))
+    text.remove_prefix(1);
+  while (!text.empty() && blank(text.back()))
+    text.remove_suffix(1);
+  return text;
+}
+
+bool sameName(std::string_view a, std::string_view b) {
+  const auto lower = [](char c) { return c >= 'A' && c <= 'Z' ? static_cast<char>(c - 'A' + 'a') : c; };
+  return std::equal(a.begin(), a.end(), b.begin(), b.end(), [&](char x, char y) { return lower(x) == lower(y); });
+}
+
+/// A key's line, and where one would be added, as byte positions in the file's text.
+struct Found {
+  bool section = false;
+  std::optional<std::string_view> value;  // as it stands behind the "="
+  std::size_t lineStart = 0;              // of the key's line, when there is a value
+  std::size_t lineEnd = 0;                // behind it, without its line end
+  std::size_t sectionEnd = 0;             // behind the section's last line that is not blank, its line end included
+};
+
+Found find(std::string_view text, std::string_view section, std::string_view key) {
+  Found found;
+  std::size_t at = text.starts_with(kByteOrderMark) ? kByteOrderMark.size() : 0;
+  while (at < text.size()) {
+    const std::size_t end = std::min(text.find('\n', at), text.size());
+    const std::size_t next = std::min(end + 1, text.size());
+    const std::string_view line = trimmed(text.substr(at, end - at));
+    if (line.starts_with('[')) {
+      if (found.section) return found;
+      const std::size_t close = line.find(']');
+      found.section = close != std::string_view::npos && sameName(trimmed(line.substr(1, close - 1)), section);
+      found.sectionEnd = next;
+    } else if (found.section && !line.empty()) {
+      found.sectionEnd = next;
+      const std::size_t equals = line.find('=');
+      const bool comment = line.starts_with(';');
+      if (!comment && equals != std::string_view::npos && sameName(trimmed(line.substr(0, equals)), key)) {
+        found.value = line.substr(equals + 1);
+        found.lineStart = at;
+        found.lineEnd = end > at && text[end - 1] == '\r' ? end - 1 : end;
+        return found;
+      }
+    }
+    at = next;
+  }
+  return found;
+}
+
+/// A decimal number in full, so that reading it again gives the same: never with an exponent.
+std::string plainNumber(double number) {
+  std::array<char, 512> digits{};
+  const auto result = std::to_chars(digits.data(), digits.data() + digits.size(), number, std::chars_format::fixed);
+  return {digits.data(), result.ptr};
+}
+
+}  // namespace
+
+Profile::Profile(const std::string& path) : text_(readWhole(path)) {}
+
+std::string Profile::value(std::string_view section, std::string_view key, std::string_view fallback) const {
+  const Found found = find(text_, section, key);
+  if (!found.value) return std::string(fallback);
+  std::string_view value = trimmed(*found.value);
+  if (value.size() >= 2 && value.front() == value.back() && (value.front() == '"' || value.front() == '\'')) {
+    value = value.substr(1, value.size() - 2);
+  }
+  return std::string(value.substr(0, kLongestValue));
+}
+
+double leadingNumber(std::string_view text) {
+  std::size_t at = 0;
+  while (at < text.size() && (text[at] == ' ' || text[at] == '\t'))
+    ++at;
+  const bool negative = at < text.size() && text[at] == '-';
+  if (at < text.size() && (text[at] == '-' || text[at] == '+')) ++at;
+  const auto digit = [&] { return at < text.size() && text[at] >= '0' && text[at] <= '9'; };
+  double number = 0;
+  for (; digit(); ++at)
+    number = number * 10 + (text[at] - '0');
+  if (at < text.size() && text[at] == '.') {
+    ++at;
+    const std::size_t fraction = at;
+    while (digit())
+      ++at;
+    // The fraction is read as a whole: added up digit by digit, 0.3 would not be what 0.3 is elsewhere.
+    const std::string digits = "0." + std::string(text.substr(fraction, at - fraction)) + "0";
+    number += std::strtod(digits.c_str(), nullptr);
+  }
+  return negative ? -number : number;
+}
+
+short wholeNumber16(double number) {
+  constexpr double kRange = 65536;
+  const double whole = std::fmod(std::nearbyint(number), kRange);
+  return static_cast<std::int16_t>(static_cast<std::int64_t>(whole));
+}
+
+namespace {
+
+std::string numberIn(const Profile& profile, std::string_view section, std::string_view key,
+                     std::string_view fallback) {
+  const std::string value = profile.value(section, key, fallback);
+  return value.empty() ? value : plainNumber(leadingNumber(value));
+}
+
+/// The old file's lines with one key replaced or added.
+std::string withValue(const std::string& text, std::string_view section, std::string_view key, std::string_view value) {
+  const Found found = find(text, section, key);
+  const bool unixLines = text.find('\n') != std::string::npos && text.find("\r\n") == std::string::npos;
+  const std::string lineEnd = unixLines ? "\n" : "\r\n";
+  const std::string line = std::string(key) + "=" + std::string(value);
+  std::string result = text;
+  if (found.value) {
+    result.replace(found.lineStart, found.lineEnd - found.lineStart, line);
+    return result;
+  }
+  std::size_t at = found.section ? found.sectionEnd : text.size();
+  const auto add = [&](const std::string& piece) {
+    result.insert(at, piece);
+    at += piece.size();
+  };
+  if (at > 0 && text[at - 1] != '\n') add(lineEnd);
+  if (!found.section) add("[" + std::string(section) + "]" + lineEnd);
+  add(line + lineEnd);
+  return result;
+}
+
+bool writeWhole(const fs::path& path, const std::string& text) {
+  std::FILE* file = std::fopen(path.c_str(), "wb");
+  if (file == nullptr) return false;
+  const bool written = std::fwrite(text.data(), 1, text.size(), file) == text.size() && std::fflush(file) == 0;
+  return std::fclose(file) == 0 && written;
+}
+
+bool writable(const fs::path& path) {
+  // Asked by the file's own mode: an administrator could write it all the same, and shall not.
+  std::error_code error;
+  const fs::file_status status = fs::status(path, error);
+  if (!fs::exists(status)) return true;
+  constexpr auto kWriters = fs::perms::owner_write | fs::perms::group_write | fs::perms::others_write;
+  return fs::is_regular_file(status) && (status.permissions() & kWriters) != fs::perms::none;
+}
+
+}  // namespace
+
+std::string getIniValue(std::string_view section, std::string_view key, std::string_view fallback) {
+  return numberIn(Profile(iniFilePath), section, key, fallback);
+}
+
+void writeIniValue(std::string_view section, std::string_view key, std::string_view value) {
+  std::error_code error;
+  fs::path path = iniFilePath;
+  if (fs::is_symlink(path, error)) path = fs::canonical(path, error);
+  if (error || !writable(path)) return;
+  fs::path fresh = path;
+  fresh += ".new";
+  if (writeWhole(fresh, withValue(readWhole(path.string()), section, key, value))) {
+    const fs::file_status old = fs::status(path, error);
+    if (fs::exists(old)) fs::permissions(fresh, old.permissions(), error);
+    fs::rename(fresh, path, error);
+    if (!error) return;
+  }
+  fs::remove(fresh, error);
+}
+
+namespace {
+
+struct Setting {
+  std::string_view key;
+  std::int16_t* variable;
+  std::int16_t makerValue;
+};
+
+/// In the order of reading.
+const std::array<Setting, 20>& settings() {
+  static const std::array<Setting, 20> table = {{
+      {"CABLECONNECTION", &cableConnection, 1},
+      {"MEMORYCLEAR", &memoryClear, 1},
+      {"CPUTYPE", &cpuType, 0},
+      {"TRANSFER", &transferSetting[0], 0},
+      {"SA-QVT40-1", &saSetting[0], 0},
+      {"SA-QVT40-3", &saSetting[1], 2},
+      {"SA-QVT50", &saSetting[2], 4},
+      {"CLOCK-QVT60", &clockSetting[0], 0},
+      {"CLOCK-QVT40-1", &clockSetting[1], 0},
+      {"CLOCK-QVT40-3", &clockSetting[2], 0},
+      {"CLOCK-QVT50", &clockSetting[3], 0},
+      {"CASCADE-QVT40-12", &cascadeSetting[1], 1},
+      {"CASCADE-QVT40-34", &cascadeSetting[2], 1},
+      {"IOS-QVT50", &ioBoardMode, 5},
+      {"MODE-QVT50", &ioBoardCounterMode, 0},
+      {"OPENWINDOW1", &openWindow[1], 1},
+      {"OPENWINDOW2", &openWindow[2], 1},
+      {"OPENWINDOW3", &openWindow[3], 1},
+      {"OPENWINDOW4", &openWindow[4], 0},
+      {"OPENWINDOW5", &openWindow[5], 0},
+  }};
+  return table;
+}
+
+void copyTransferSetting() {
+  std::fill(transferSetting.begin() + 1, transferSetting.end(), transferSetting[0]);
+}
+
+}  // namespace
+
+void readIniFile() {
+  iniFilePath = programFolder + "/ZELVS.INI";
+  const Profile profile(iniFilePath);
+  for (const Setting& setting : settings()) {
+    *setting.variable = wholeNumber16(leadingNumber(numberIn(profile, kIniSection, setting.key, "")));
+  }
+  copyTransferSetting();
+}
+
+void Mdef_Set() {
+  for (const Setting& setting : settings())
+    *setting.variable = setting.makerValue;
+  copyTransferSetting();
+}
+
+}  // namespace zelvs

@@ -1,0 +1,43 @@
+#pragma once
+
+#include <string>
+#include <string_view>
+
+namespace zelvs {
+
+/// Section of ZELVS.INI that holds the settings.
+inline constexpr std::string_view kIniSection = "INIT";
+
+/// A file in the line format of a platform profile: "[section]" lines and "key=value" lines, sections and keys told
+/// apart without regard to case. Of doubled sections and keys the first counts. A file that cannot be read is empty.
+class Profile {
+ public:
+  explicit Profile(const std::string& path);
+
+  /// The value without the blanks, and one pair of quotation marks, around it; fallback when there is none. At most
+  /// 255 bytes long.
+  std::string value(std::string_view section, std::string_view key, std::string_view fallback) const;
+
+ private:
+  std::string text_;
+};
+
+/// The leading number of a key's value in iniFilePath, as text ("12 apples" gives "12", "x" gives "0"), or the empty
+/// text when the value is missing or empty.
+std::string getIniValue(std::string_view section, std::string_view key, std::string_view fallback);
+
+/// Writes one key into iniFilePath and keeps every other line. The new file takes the place of the old one only when
+/// it is whole; a file or folder that cannot be written leaves everything as it was, without a word.
+void writeIniValue(std::string_view section, std::string_view key, std::string_view value);
+
+/// The number that a text begins with: blanks, a sign, digits, a fraction. 0 when there is none.
+double leadingNumber(std::string_view text);
+/// Rounded to a whole number, halves to even, of which the low 16 bits count: 65535 is -1.
+short wholeNumber16(double number);
+
+/// Builds iniFilePath and fills all settings from the file. What is missing reads as 0.
+void readIniFile();
+/// Puts the maker's values straight into the settings.
+void Mdef_Set();
+
+}  // namespace zelvs
