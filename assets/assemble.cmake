@@ -1,0 +1,4 @@
+file(MAKE_DIRECTORY ${TO})
+if(NOT EXISTS ${TO}/ZELVS.INI)
+  file(COPY ${FROM}/ZELVS.INI DESTINATION ${TO})
+endif()
