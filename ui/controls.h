@@ -169,9 +169,12 @@ class ListControl : public Control {
   std::vector<std::string> rows_;
 };
 
+/// A list behind a field. An Unrolled one has no field: all its rows lie open for as long as it is visible.
 class ComboBox : public ListControl {
  public:
   ComboBox(Form* form, std::string_view name, int index = -1) : ListControl(form, name, index, ControlKind::ComboBox) {}
+
+  Property<bool> Unrolled{this, false};
 };
 
 class ListBox : public ListControl {

@@ -40,7 +40,9 @@ void Form::repaint() {
 }
 
 void Form::setTopmost() {
+  const bool already = topmost_;
   topmost_ = true;
+  if (already) return;
   desk().raise(*this);
   platform().formChanged(*this);
 }

@@ -71,6 +71,7 @@ class Form : public PropertyOwner {
   double insideTop() const;
   /// What a frame keeps for its tool bar above the children's area, in twips.
   virtual double barHeight() const { return 0; }
+  virtual bool hasCloseBox() const { return border_ != Border::None; }
 
   /// All controls, in the order of their making.
   const std::vector<Control*>& controls() const { return controls_; }

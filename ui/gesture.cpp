@@ -321,7 +321,7 @@ std::string close(Form& form) {
   const Desk::Event event;
   std::string why = turnTo(form, nullptr);
   if (!why.empty()) return why;
-  if (form.border() == Border::None) return form.name() + " has no close box";
+  if (!form.hasCloseBox()) return form.name() + " has no close box";
   form.close(true);
   return {};
 }

@@ -199,7 +199,7 @@ std::optional<Value> ownRow(const Control& control, std::string_view name, int r
 
 std::optional<Value> inspect(const Control& control, std::string_view property, std::optional<int> argument) {
   if (argument) return ownRow(control, property, *argument);
-  const std::optional<Value> value = own(control, property);
+  std::optional<Value> value = own(control, property);
   return value ? value : look(kCommon, control, property);
 }
 

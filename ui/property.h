@@ -24,7 +24,7 @@ class Property {
   explicit Property(PropertyOwner* owner, T initial = T()) : owner_(owner), value_(std::move(initial)) {}
   Property(const Property&) = delete;
   Property& operator=(const Property& other) {
-    assign(other.value_);
+    if (this != &other) assign(other.value_);
     return *this;
   }
 

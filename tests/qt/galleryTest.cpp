@@ -1,0 +1,353 @@
+// One window with a control of every kind, worked through real events: what a person types, picks and points at
+// reaches the model, and what the model says is what the window shows.
+
+#include <gtest/gtest.h>
+
+#include <QApplication>
+#include <QCheckBox>
+#include <QComboBox>
+#include <QHelpEvent>
+#include <QLineEdit>
+#include <QListWidget>
+#include <QMouseEvent>
+#include <QPushButton>
+#include <QTabBar>
+#include <QToolTip>
+#include <memory>
+
+#include "shell/frmMDI.h"
+#include "support/program.h"
+#include "ui/controls.h"
+#include "ui/qt/canvas.h"
+#include "ui/qt/desktopScript.h"
+#include "ui/qt/qtPlatform.h"
+#include "ui/qt/windows.h"
+
+namespace zelvs {
+namespace {
+
+class FrmGallery final : public Form {
+ public:
+  static constexpr FormKind kKind = FormKind::Window;
+  FrmGallery() : Form("frmGallery", kKind, Border::Fixed) {
+    Caption = "Gallery";
+    Width = 6000;
+    Height = 5400;
+    lblText.move(120, 120, 1500, 300);
+    lblText.Caption = "ラベル 0x3F";
+    lblText.ToolTipText = "説明";
+    picBox.move(120, 480, 1500, 900);
+    picBox.setUnit(kTwipsPerPixel);
+    picBox.BackColor = kWhite;
+    picInside.placeIn(picBox);
+    picInside.move(80, 5, 15, 13);
+    picInside.Picture = ilsLED_G.image(2);
+    linA.X1 = 120;
+    linA.Y1 = 1500;
+    linA.X2 = 1620;
+    linA.Y2 = 1800;
+    shpA.move(1800, 120, 300, 300);
+    shpA.BackColor = kRed;
+    fraA.move(1800, 480, 1800, 1200);
+    fraA.Caption = "Access";
+    fraA.FontSize = 9;
+    opnA(0).placeIn(fraA);
+    opnA(0).move(120, 300, 1500, 300);
+    opnA(0).Caption = "word";
+    opnA(1).placeIn(fraA);
+    opnA(1).move(120, 700, 1500, 300);
+    opnA(1).Caption = "byte";
+    txtA.move(3800, 120, 1200, 330);
+    txtA.Text = "0000";
+    txtA.MaxLength = 4;
+    chkA.move(3800, 600, 1800, 300);
+    chkA.Caption = "常に手前に表示";
+    cmbA.move(3800, 1000, 1800, 330);
+    cmbRows.move(3800, 1400, 1800, 900);
+    lstA.move(120, 2000, 1800, 1200);
+    tabA.move(2100, 2400, 3500, 1800);
+    cmdA.move(120, 3400, 1200, 375);
+    cmdA.Caption = "OK";
+    for (ListControl* list :
+         {static_cast<ListControl*>(&cmbA), static_cast<ListControl*>(&cmbRows), static_cast<ListControl*>(&lstA)}) {
+      for (const char* row : {"48MHz", "24MHz", "12MHz"})
+        list->addItem(row);
+    }
+    cmbRows.Unrolled = true;
+    tabA.Tabs = 3;
+    tabA.setTabCaption(1, "INT0R");
+  }
+
+  ImageList ilsLED_G{"ilsLED_G", 2};
+  ImageList ilsMouse{"ilsMouse", 2};
+  Label lblText{this, "lblText"};
+  PictureBox picBox{this, "picBox"};
+  PictureBox picInside{this, "picInside"};
+  Line linA{this, "linA"};
+  Shape shpA{this, "shpA"};
+  Frame fraA{this, "fraA"};
+  ControlArray<OptionButton> opnA{this, "opnA", 0, 1};
+  TextBox txtA{this, "txtA"};
+  CheckBox chkA{this, "chkA"};
+  ComboBox cmbA{this, "cmbA"};
+  ComboBox cmbRows{this, "cmbRows"};
+  ListBox lstA{this, "lstA"};
+  TabStrip tabA{this, "tabA"};
+  CommandButton cmdA{this, "cmdA"};
+};
+
+FormRef<FrmGallery> frmGallery{"frmGallery"};
+
+/// Real windows, off-screen, worked by the same hands as a script's.
+class GalleryTest : public testing::Test {
+ protected:
+  GalleryTest() {
+    qputenv("QT_QPA_PLATFORM", "offscreen");
+    desktop_ = std::make_unique<DesktopScript>(argc_, argv_);
+    clearState();
+    frmGallery->show();
+    settle();
+  }
+  ~GalleryTest() override { desk().clear(); }
+
+  Hands& hands() { return desktop_->hands(); }
+  ScriptedPlatform& platform() { return desktop_->platform(); }
+
+  static void settle() {
+    for (int i = 0; i < 3; ++i)
+      QApplication::processEvents();
+  }
+  static Canvas& canvas() {
+    for (QWidget* widget : QApplication::allWidgets()) {
+      auto* canvas = qobject_cast<Canvas*>(widget);
+      if (canvas != nullptr && canvas->form() == frmGallery.form()) return *canvas;
+    }
+    throw std::runtime_error("the gallery has no canvas");
+  }
+  template <class Widget>
+  static Widget& widgetOf(const Control& control) {
+    return *qobject_cast<Widget*>(canvas().widgetOf(control));
+  }
+  /// The colour at a place of the form in twips, as the window shows it now.
+  static QColor shownAt(double x, double y) {
+    settle();
+    return canvas().grab().toImage().pixelColor(qRound(x / kTwipsPerPixel), qRound(y / kTwipsPerPixel));
+  }
+
+ private:
+  int argc_ = 1;
+  char name_[5] = "test";
+  char* argv_[2] = {name_, nullptr};
+  std::unique_ptr<DesktopScript> desktop_;
+};
+
+TEST_F(GalleryTest, TypingReachesTheModelAndTheFieldShowsIt) {
+  frmGallery->txtA.SelStart = 0;
+  frmGallery->txtA.SelLength = 1;
+  EXPECT_EQ(hands().type(frmGallery->txtA, U'A'), "");
+  EXPECT_EQ(frmGallery->txtA.Text.get(), "A000");
+  settle();
+  EXPECT_EQ(widgetOf<QLineEdit>(frmGallery->txtA).text(), "A000");
+  EXPECT_EQ(widgetOf<QLineEdit>(frmGallery->txtA).cursorPosition(), 1);
+}
+
+TEST_F(GalleryTest, HandlersOfTheFieldSeeEveryKey) {
+  std::u32string pressed;
+  std::vector<int> down;
+  frmGallery->txtA.onKeyPress = [&](char32_t& character) {
+    pressed += character;
+    character = 0;
+  };
+  frmGallery->txtA.onKeyDown = [&](int& code) { down.push_back(code); };
+  hands().type(frmGallery->txtA, U'z');
+  hands().keyDown(frmGallery->txtA, 39);
+  hands().keyDown(frmGallery->txtA, 46);
+  EXPECT_EQ(pressed, U"z");
+  EXPECT_EQ(down, (std::vector<int>{39, 46}));
+  EXPECT_EQ(frmGallery->txtA.Text.get(), "000") << "Delete takes the character behind the caret";
+}
+
+TEST_F(GalleryTest, TheSelectionOfTheModelIsShown) {
+  frmGallery->txtA.SelStart = 2;
+  frmGallery->txtA.SelLength = 1;
+  settle();
+  EXPECT_EQ(widgetOf<QLineEdit>(frmGallery->txtA).selectionStart(), 2);
+  EXPECT_EQ(widgetOf<QLineEdit>(frmGallery->txtA).selectedText().size(), 1);
+}
+
+TEST_F(GalleryTest, FocusGoesBetweenWidgetsAsTheModelSays) {
+  std::string order;
+  frmGallery->txtA.onGotFocus = [&] { order += "got "; };
+  frmGallery->txtA.onLostFocus = [&] { order += "lost "; };
+  hands().focus(frmGallery->txtA);
+  hands().click(*frmGallery, &frmGallery->cmdA);
+  EXPECT_EQ(order, "got lost ");
+  EXPECT_EQ(desk().focused(), &frmGallery->cmdA);
+}
+
+TEST_F(GalleryTest, ButtonsChecksAndOptionsAreClicked) {
+  int clicks = 0;
+  frmGallery->cmdA.onClick = [&] { ++clicks; };
+  hands().click(*frmGallery, &frmGallery->cmdA);
+  EXPECT_EQ(clicks, 1);
+  hands().click(*frmGallery, &frmGallery->chkA);
+  EXPECT_EQ(frmGallery->chkA.Value.get(), 1);
+  hands().click(*frmGallery, &frmGallery->opnA(1));
+  hands().click(*frmGallery, &frmGallery->opnA(0));
+  EXPECT_TRUE(frmGallery->opnA(0).Value.get());
+  EXPECT_FALSE(frmGallery->opnA(1).Value.get());
+  settle();
+  EXPECT_TRUE(widgetOf<QCheckBox>(frmGallery->chkA).isChecked());
+}
+
+TEST_F(GalleryTest, RowsAndTabsArePicked) {
+  int clicks = 0;
+  for (Control* control : {static_cast<Control*>(&frmGallery->cmbA), static_cast<Control*>(&frmGallery->cmbRows),
+                           static_cast<Control*>(&frmGallery->lstA), static_cast<Control*>(&frmGallery->tabA)}) {
+    control->onClick = [&] { ++clicks; };
+    EXPECT_EQ(hands().pick(*control, 2), "");
+    EXPECT_NE(hands().pick(*control, 3), "") << control->name();
+  }
+  EXPECT_EQ(clicks, 4);
+  EXPECT_EQ(frmGallery->cmbA.ListIndex.get(), 2);
+  EXPECT_EQ(frmGallery->cmbRows.Text(), "12MHz");
+  EXPECT_EQ(frmGallery->lstA.ListIndex.get(), 2);
+  EXPECT_EQ(frmGallery->tabA.Tab.get(), 2);
+  settle();
+  EXPECT_EQ(widgetOf<QTabBar>(frmGallery->tabA).tabText(1), "INT0R");
+  EXPECT_EQ(widgetOf<QListWidget>(frmGallery->lstA).currentRow(), 2);
+  EXPECT_EQ(widgetOf<QComboBox>(frmGallery->cmbA).currentText(), "12MHz");
+}
+
+TEST_F(GalleryTest, HiddenAndDisabledControlsAreSoOnTheWindow) {
+  frmGallery->cmdA.Enabled = false;
+  frmGallery->fraA.Visible = false;
+  settle();
+  EXPECT_FALSE(widgetOf<QPushButton>(frmGallery->cmdA).isEnabled());
+  EXPECT_FALSE(canvas().widgetOf(frmGallery->opnA(0))->isVisible()) << "what a hidden frame holds is hidden";
+  frmGallery->fraA.Visible = true;
+  settle();
+  EXPECT_TRUE(canvas().widgetOf(frmGallery->opnA(0))->isVisible());
+}
+
+TEST_F(GalleryTest, ShapesPicturesAndDrawingsAreSeen) {
+  EXPECT_EQ(shownAt(1950, 270), QColor(255, 0, 0));
+  const QColor before = shownAt(300, 900);
+  EXPECT_EQ(before, QColor(255, 255, 255));
+  frmGallery->picBox.line(0, 28, 60, 28, kRed);
+  EXPECT_EQ(shownAt(300, 900), QColor(255, 0, 0));
+  frmGallery->picBox.cls();
+  EXPECT_EQ(shownAt(300, 900), before);
+  const QColor lamp = shownAt(120 + 87 * 15, 480 + 11 * 15);
+  frmGallery->picInside.Picture = frmGallery->ilsLED_G.image(1);
+  EXPECT_NE(shownAt(120 + 87 * 15, 480 + 11 * 15), lamp) << "another image is another lamp";
+}
+
+TEST_F(GalleryTest, AFilePictureIsShownInItsOwnSize) {
+  TemporaryFolder folder;
+  QImage blue(20, 10, QImage::Format_RGB32);
+  blue.fill(Qt::blue);
+  ASSERT_TRUE(blue.save(QString::fromStdString(folder.file("blue.bmp")), "BMP"));
+  frmGallery->picBox.AutoSize = true;
+  frmGallery->picBox.Picture = loadPicture(folder.file("blue.bmp"));
+  EXPECT_EQ(frmGallery->picBox.Width.get(), 300);
+  EXPECT_EQ(frmGallery->picBox.Height.get(), 150);
+  EXPECT_EQ(shownAt(180, 540), QColor(0, 0, 255));
+}
+
+TEST_F(GalleryTest, MovingAControlClearsItsOldPlace) {
+  frmGallery->shpA.Left = 2400;
+  EXPECT_EQ(shownAt(2550, 270), QColor(255, 0, 0));
+  EXPECT_NE(shownAt(1950, 270), QColor(255, 0, 0));
+}
+
+TEST_F(GalleryTest, OnlyTheChangedPlaceIsPainted) {
+  class Watch final : public QObject {
+   public:
+    QRegion painted;
+    bool eventFilter(QObject*, QEvent* event) override {
+      if (event->type() == QEvent::Paint) painted += static_cast<QPaintEvent*>(event)->region();
+      return false;
+    }
+  };
+  settle();
+  Watch watch;
+  canvas().installEventFilter(&watch);
+  frmGallery->picInside.Picture = frmGallery->ilsLED_G.image(1);
+  settle();
+  ASSERT_FALSE(watch.painted.isEmpty());
+  EXPECT_LE(watch.painted.boundingRect().width(), 15 + 4);
+  EXPECT_LE(watch.painted.boundingRect().height(), 13 + 4);
+
+  watch.painted = {};
+  frmGallery->picInside.Picture = frmGallery->ilsLED_G.image(1);
+  settle();
+  EXPECT_TRUE(watch.painted.isEmpty()) << "an unchanged value costs nothing";
+
+  frmGallery->hide();
+  frmGallery->picInside.Picture = frmGallery->ilsLED_G.image(2);
+  settle();
+  EXPECT_TRUE(watch.painted.isEmpty()) << "a hidden window is skipped";
+}
+
+TEST_F(GalleryTest, TipsAndPointersBelongToTheControlUnderTheMouse) {
+  const QPoint place(40, 18);
+  QHelpEvent help(QEvent::ToolTip, place, canvas().mapToGlobal(place));
+  QApplication::sendEvent(&canvas(), &help);
+  EXPECT_EQ(QToolTip::text(), "説明");
+  EXPECT_EQ(canvas().cursor().shape(), Qt::ArrowCursor);
+  frmGallery->lblText.MousePointer = kCustomPointer;
+  frmGallery->lblText.MouseIcon = frmGallery->ilsMouse.image(2);
+  hands().move(*frmGallery, &frmGallery->lblText);
+  EXPECT_EQ(canvas().cursor().shape(), Qt::BitmapCursor);
+  hands().move(*frmGallery, &frmGallery->shpA);
+  EXPECT_EQ(canvas().cursor().shape(), Qt::ArrowCursor);
+}
+
+TEST_F(GalleryTest, AControlUnderAnotherCannotBeReached) {
+  frmGallery->shpA.move(0, 0, 3000, 3000);
+  frmGallery->shpA.bringToFront();
+  EXPECT_EQ(hands().click(*frmGallery, &frmGallery->lblText), "frmGallery.lblText is covered");
+}
+
+TEST_F(GalleryTest, DoubleClicksAreTwoPressesWithoutAHandler) {
+  std::string order;
+  frmGallery->picBox.onMouseDown = [&] { order += "d"; };
+  frmGallery->picBox.onMouseUp = [&] { order += "u"; };
+  frmGallery->picBox.onClick = [&] { order += "c"; };
+  hands().doubleClick(*frmGallery, &frmGallery->picBox, true);
+  EXPECT_EQ(order, "ducduc");
+  order.clear();
+  frmGallery->picBox.onDblClick = [&] { order += "D"; };
+  hands().doubleClick(*frmGallery, &frmGallery->picBox, true);
+  EXPECT_EQ(order, "ducDu");
+}
+
+TEST_F(GalleryTest, TheCloseBoxUnloadsAndTheNextTouchMakesANewWindow) {
+  EXPECT_EQ(hands().close(*frmGallery), "");
+  EXPECT_FALSE(frmGallery.loaded());
+  settle();
+  frmGallery->show();
+  settle();
+  EXPECT_TRUE(canvas().isVisible());
+}
+
+TEST_F(GalleryTest, AHandlerMayUnloadItsOwnForm) {
+  frmGallery->picBox.onClick = [] { frmGallery->unload(); };
+  hands().click(*frmGallery, &frmGallery->picBox);
+  settle();
+  EXPECT_FALSE(frmGallery.loaded());
+}
+
+TEST_F(GalleryTest, TheFrameHoldsItsToolBarAtEveryWidth) {
+  frmMDI->show();
+  settle();
+  for (QWidget* widget : QApplication::topLevelWidgets()) {
+    if (qobject_cast<QMainWindow*>(widget) != nullptr) widget->resize(900, 500);
+  }
+  settle();
+  EXPECT_EQ(frmMDI->ToolBox.Width.get(), 900 * kTwipsPerPixel);
+}
+
+}  // namespace
+}  // namespace zelvs

@@ -1,0 +1,63 @@
+#include "ui/qt/sprites.h"
+
+#include <QFile>
+#include <QHash>
+#include <QPainter>
+#include <QSvgRenderer>
+#include <memory>
+
+#include "ui/runTimeError.h"
+
+namespace zelvs {
+
+namespace {
+
+/// An image list's file: a strip of equal cells, image number n the n-th from the left.
+QSvgRenderer& stripOf(const ImageList& list) {
+  static QHash<QString, std::shared_ptr<QSvgRenderer>> strips;
+  const QString name = QString::fromStdString(list.name());
+  auto& strip = strips[name];
+  if (strip == nullptr) {
+    strip = std::make_shared<QSvgRenderer>(":/pictures/" + name + ".svg");
+    if (!strip->isValid()) runTimeError("no pictures for the image list " + list.name());
+  }
+  return *strip;
+}
+
+QPixmap render(const ImageList& list, int image, QSize pixels) {
+  QSvgRenderer& strip = stripOf(list);
+  const QSizeF whole = strip.defaultSize();
+  const qreal cell = whole.width() / list.count();
+  strip.setViewBox(QRectF((image - 1) * cell, 0, cell, whole.height()));
+  QPixmap pixmap(pixels);
+  pixmap.fill(Qt::transparent);
+  QPainter painter(&pixmap);
+  strip.render(&painter, QRectF(QPointF(0, 0), QSizeF(pixels)));
+  return pixmap;
+}
+
+}  // namespace
+
+QPixmap spriteOf(const Picture& picture, QSize size, qreal devicePixelRatio) {
+  const PictureFile* file = picture.list != nullptr ? picture.list->fileOf(picture.image) : picture.file;
+  const QString source = file != nullptr
+                             ? QString::fromStdString(file->path)
+                             : QString::fromStdString(picture.list->name()) + ' ' + QString::number(picture.image);
+  static QHash<QString, QPixmap> kept;
+  const QString key = source + '@' + QString::number(size.width()) + 'x' + QString::number(size.height()) + '*' +
+                      QString::number(devicePixelRatio);
+  const auto found = kept.constFind(key);
+  if (found != kept.constEnd()) return *found;
+
+  QPixmap pixmap;
+  if (file != nullptr) {
+    if (!pixmap.load(source)) runTimeError("picture file cannot be read: " + file->path);
+  } else {
+    pixmap = render(*picture.list, picture.image, (QSizeF(size) * devicePixelRatio).toSize());
+    pixmap.setDevicePixelRatio(devicePixelRatio);
+  }
+  kept.insert(key, pixmap);
+  return pixmap;
+}
+
+}  // namespace zelvs

@@ -1,0 +1,260 @@
+#include "ui/qt/windows.h"
+
+#include <QApplication>
+#include <QCloseEvent>
+#include <QScopedValueRollback>
+#include <QScreen>
+#include <QTimer>
+#include <QVBoxLayout>
+
+#include "ui/desk.h"
+#include "ui/gesture.h"
+#include "ui/qt/drawing.h"
+
+namespace zelvs {
+
+namespace {
+
+QPoint pixelPlace(const Form& form) {
+  return {qRound(form.Left / kTwipsPerPixel), qRound(form.Top / kTwipsPerPixel)};
+}
+
+/// A window made of nothing but its canvas.
+class TopWindow final : public QWidget {
+ public:
+  TopWindow(Canvas* canvas, QWidget* owner, Qt::WindowFlags flags) : QWidget(owner, flags) {
+    auto* layout = new QVBoxLayout(this);
+    layout->setContentsMargins(0, 0, 0, 0);
+    layout->setSizeConstraint(QLayout::SetFixedSize);
+    layout->addWidget(canvas);
+  }
+};
+
+}  // namespace
+
+Windows::Windows() = default;
+
+Windows::~Windows() {
+  // Top-level windows that the frame owns go with it.
+  for (const Shown& shown : std::as_const(shown_)) {
+    if (shown.window != frame_ && shown.window->parent() == nullptr) delete shown.window;
+  }
+  delete frame_;
+}
+
+Canvas* Windows::canvasOf(const Form& form) const {
+  return shown_.value(&form).canvas;
+}
+
+QWidget* Windows::windowOf(const Form& form) const {
+  return shown_.value(&form).window;
+}
+
+void Windows::formLoaded(Form& form) {
+  const QScopedValueRollback<bool> following(following_, true);
+  auto* canvas = new Canvas(form);
+  QWidget* window = form.kind() == FormKind::Frame   ? makeFrame(form, canvas)
+                    : form.kind() == FormKind::Child ? makeChild(form, canvas)
+                                                     : makeWindow(form, canvas);
+  window->setWindowTitle(QString::fromStdString(form.Caption.get()));
+  window->installEventFilter(this);
+  shown_.insert(&form, {canvas, window});
+  place(form, {canvas, window});
+  form.takeChanged();
+  changed_.insert(&form);
+  schedule();
+}
+
+QWidget* Windows::makeFrame(Form& /*form*/, Canvas* canvas) {
+  frame_ = new QMainWindow;
+  auto* inside = new QWidget;
+  auto* layout = new QVBoxLayout(inside);
+  layout->setContentsMargins(0, 0, 0, 0);
+  layout->setSpacing(0);
+  layout->addWidget(canvas);
+  area_ = new QMdiArea;
+  area_->setHorizontalScrollBarPolicy(Qt::ScrollBarAsNeeded);
+  area_->setVerticalScrollBarPolicy(Qt::ScrollBarAsNeeded);
+  // The model decides who is active; closing the active window must not hand that to any other by itself.
+  area_->setOption(QMdiArea::DontMaximizeSubWindowOnActivation);
+  connect(area_, &QMdiArea::subWindowActivated, this, [this](QMdiSubWindow* window) {
+    Form* form = formOf(window);
+    if (form != nullptr && !following_) gesture::activate(*form);
+  });
+  layout->addWidget(area_, 1);
+  frame_->setCentralWidget(inside);
+  return frame_;
+}
+
+QWidget* Windows::makeChild(Form& form, Canvas* canvas) {
+  Qt::WindowFlags flags = Qt::SubWindow;
+  if (form.border() == Border::None) {
+    flags |= Qt::FramelessWindowHint;
+  } else {
+    flags |= Qt::CustomizeWindowHint | Qt::WindowTitleHint;
+    if (form.hasCloseBox()) flags |= Qt::WindowSystemMenuHint | Qt::WindowCloseButtonHint;
+  }
+  auto* window = new QMdiSubWindow(nullptr, flags);
+  window->setWidget(canvas);
+  window->setAttribute(Qt::WA_DeleteOnClose, false);
+  area_->addSubWindow(window, flags);
+  window->hide();
+  return window;
+}
+
+QWidget* Windows::makeWindow(Form& form, Canvas* canvas) {
+  Qt::WindowFlags flags = Qt::Dialog;
+  if (form.border() == Border::None) {
+    flags |= Qt::FramelessWindowHint;
+  } else {
+    flags |= Qt::CustomizeWindowHint | Qt::WindowTitleHint;
+    if (form.hasCloseBox()) flags |= Qt::WindowCloseButtonHint;
+  }
+  if (form.topmost()) flags |= Qt::WindowStaysOnTopHint;
+  return new TopWindow(canvas, frame_, flags);
+}
+
+void Windows::place(const Form& form, const Shown& shown) {
+  const QScopedValueRollback<bool> following(following_, true);
+  shown.canvas->fitForm();
+  if (form.kind() == FormKind::Frame) return;  // the user's own: the program never moves it
+  if (shown.window->pos() != pixelPlace(form)) shown.window->move(pixelPlace(form));
+  if (auto* child = qobject_cast<QMdiSubWindow*>(shown.window)) child->adjustSize();
+}
+
+void Windows::formShown(Form& form) {
+  const QScopedValueRollback<bool> following(following_, true);
+  const Shown shown = shown_.value(&form);
+  if (form.kind() == FormKind::Frame) {
+    // Sized first: where no window manager maximizes it, it fills the screen all the same.
+    frame_->setGeometry(frame_->screen()->availableGeometry());
+    frame_->showMaximized();
+    return;
+  }
+  if (form.kind() == FormKind::Window)
+    shown.window->setWindowModality(form.modal() ? Qt::ApplicationModal : Qt::NonModal);
+  place(form, shown);
+  shown.canvas->show();
+  shown.window->show();
+  schedule();
+}
+
+void Windows::formHidden(Form& form) {
+  const QScopedValueRollback<bool> following(following_, true);
+  if (QWidget* window = windowOf(form)) window->hide();
+}
+
+void Windows::formUnloaded(Form& form) {
+  const QScopedValueRollback<bool> following(following_, true);
+  const Shown shown = shown_.take(&form);
+  changed_.remove(&form);
+  if (shown.window == nullptr) return;
+  shown.canvas->forgetForm();
+  shown.window->hide();
+  if (auto* child = qobject_cast<QMdiSubWindow*>(shown.window)) area_->removeSubWindow(child);
+  if (shown.window == frame_) {
+    frame_ = nullptr;
+    area_ = nullptr;
+  }
+  shown.window->deleteLater();
+}
+
+void Windows::formChanged(Form& form) {
+  if (!shown_.contains(&form)) return;  // still being made
+  changed_.insert(&form);
+  schedule();
+}
+
+void Windows::orderChanged() {
+  orderChanged_ = true;
+  schedule();
+}
+
+void Windows::controlsChanged(Form& form) {
+  formChanged(form);
+}
+
+void Windows::repaint(Form& form) {
+  flush();
+  if (Canvas* canvas = canvasOf(form)) canvas->repaint();
+}
+
+void Windows::schedule() {
+  if (scheduled_) return;
+  scheduled_ = true;
+  QTimer::singleShot(0, this, &Windows::flush);
+}
+
+void Windows::flush() {
+  scheduled_ = false;
+  const QScopedValueRollback<bool> following(following_, true);
+  const QSet<Form*> forms = std::exchange(changed_, {});
+  for (Form* form : forms) {
+    const Shown shown = shown_.value(form);
+    if (shown.window->windowTitle() != QString::fromStdString(form->Caption.get())) {
+      shown.window->setWindowTitle(QString::fromStdString(form->Caption.get()));
+    }
+    place(*form, shown);
+    // A hidden window is looked at as a whole when it is shown; its controls stay marked until then.
+    if (form->visible()) shown.canvas->showChanges(form->takeChanged());
+  }
+  if (std::exchange(orderChanged_, false)) stack();
+}
+
+void Windows::stack() {
+  // Back to front, so that the last one raised is the front one.
+  const std::vector<Form*>& order = desk().forms();
+  for (auto at = order.rbegin(); at != order.rend(); ++at) {
+    QWidget* window = windowOf(**at);
+    if (window != nullptr && window != frame_ && (*at)->visible()) window->raise();
+  }
+  const Form* active = desk().active();
+  if (active == nullptr || windowOf(*active) == nullptr) return;
+  if (auto* child = qobject_cast<QMdiSubWindow*>(windowOf(*active))) {
+    area_->setActiveSubWindow(child);
+  } else if (active->kind() == FormKind::Window) {
+    windowOf(*active)->activateWindow();
+  }
+}
+
+Form* Windows::formOf(const QObject* window) const {
+  for (auto at = shown_.constBegin(); at != shown_.constEnd(); ++at) {
+    if (at->window == window) return const_cast<Form*>(at.key());
+  }
+  return nullptr;
+}
+
+void Windows::takePlace(Form& form, const QWidget& window) {
+  const QPoint place = window.pos();
+  if (place == pixelPlace(form)) return;
+  form.Left = place.x() * kTwipsPerPixel;
+  form.Top = place.y() * kTwipsPerPixel;
+}
+
+bool Windows::eventFilter(QObject* watched, QEvent* event) {
+  Form* form = formOf(watched);
+  if (form == nullptr) return false;
+  auto* window = static_cast<QWidget*>(watched);
+  switch (event->type()) {
+    case QEvent::Close:
+      event->ignore();
+      if (!following_) gesture::close(*form);
+      return true;
+    case QEvent::Move:
+      if (!following_ && form->visible() && !window->isMaximized()) takePlace(*form, *window);
+      return false;
+    case QEvent::Resize:
+      if (window == frame_) {
+        form->Width = frame_->width() * kTwipsPerPixel;
+        form->Height = frame_->height() * kTwipsPerPixel + (form->Height - form->clientHeight());
+      }
+      return false;
+    case QEvent::WindowActivate:
+      if (!following_ && form->kind() == FormKind::Window && form->visible()) gesture::activate(*form);
+      return false;
+    default:
+      return false;
+  }
+}
+
+}  // namespace zelvs

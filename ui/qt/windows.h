@@ -1,0 +1,64 @@
+#pragma once
+
+#include <QHash>
+#include <QMainWindow>
+#include <QMdiArea>
+#include <QMdiSubWindow>
+#include <QObject>
+#include <QSet>
+
+#include "ui/form.h"
+#include "ui/qt/canvas.h"
+
+namespace zelvs {
+
+/// The window of each loaded form, kept as the model says: shown, placed, stacked and painted once per return to the
+/// event loop. What the user does to a window itself (moving, closing, turning to it) goes back as gestures.
+class Windows final : public QObject {
+  Q_OBJECT
+ public:
+  Windows();
+  ~Windows() override;
+
+  void formLoaded(Form& form);
+  void formShown(Form& form);
+  void formHidden(Form& form);
+  void formUnloaded(Form& form);
+  void formChanged(Form& form);
+  void orderChanged();
+  void controlsChanged(Form& form);
+  void repaint(Form& form);
+
+  /// Shows now what has changed since the last time.
+  void flush();
+  Canvas* canvasOf(const Form& form) const;
+  /// What the screen holds of a form: with its caption bar where the program draws that itself.
+  QWidget* windowOf(const Form& form) const;
+  /// The frame's window, or null while it is not loaded.
+  QMainWindow* frame() const { return frame_; }
+  bool eventFilter(QObject* watched, QEvent* event) override;
+
+ private:
+  struct Shown {
+    Canvas* canvas = nullptr;
+    QWidget* window = nullptr;  // main window, sub window of the frame, or the canvas's own top-level window
+  };
+  void schedule();
+  QWidget* makeFrame(Form& form, Canvas* canvas);
+  QWidget* makeChild(Form& form, Canvas* canvas);
+  QWidget* makeWindow(Form& form, Canvas* canvas);
+  void place(const Form& form, const Shown& shown);
+  void stack();
+  void takePlace(Form& form, const QWidget& window);
+  Form* formOf(const QObject* window) const;
+
+  QHash<const Form*, Shown> shown_;
+  QSet<Form*> changed_;
+  QMainWindow* frame_ = nullptr;
+  QMdiArea* area_ = nullptr;
+  bool scheduled_ = false;
+  bool orderChanged_ = false;
+  bool following_ = false;  // the windows follow the model: their events are no doing of the user's
+};
+
+}  // namespace zelvs
