@@ -209,8 +209,10 @@ void applyNoise() {
       answeringBoard = kLineUnusable;
       noiseStation = polledStation;
     }
-  } else if (polledStation == noiseStation) {
+  }
+  if (noiseHits > kScatteredHits && polledStation == noiseStation) {
     // After the scattered hits the noise sits on one station, until its error count has fired both check counters.
+    // The poll of the last scattered hit is the first of these.
     ++noiseHits;
     answeringBoard = kLineUnusable;
     if (noiseHits > kLastHit) noiseHits = 0;

@@ -19,7 +19,7 @@ constexpr std::array<std::string_view, 10> kRowNames = {"Reg.",  "SCR",  "SSR", 
 
 constexpr double kRowHeight = 270;
 constexpr double kFirstRow = 360;
-constexpr double kFormHeight = 2940;  // the caption bar and eight rows: the ninth stays out of sight
+constexpr double kFormHeight = 2820;  // the caption bar and eight rows: the ninth stays out of sight
 constexpr double kFormWidth = 4470;
 
 constexpr double kValueHighLeft = 120;

@@ -106,6 +106,7 @@ void takeMode() {
 
 /// A list's Click only hides it; Escape does the same.
 void closesOnPick(ComboBox& list) {
+  list.Unrolled = true;
   list.Visible = false;
   const auto close = [&list] { list.Visible = false; };
   list.onClick = close;

@@ -102,6 +102,10 @@ void FrmMDI::load() {
   timTick.Interval = kRunModes[kRun].interval;
 }
 
+void FrmMDI::resized() {
+  ToolBox.Width = Width.get();
+}
+
 void FrmMDI::lblRunMode_Click(int index) {
   for (Label& label : lblRunMode)
     label.BackColor = label.index() == index ? kModeSelected : kModeFree;

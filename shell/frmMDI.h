@@ -33,6 +33,7 @@ class FrmMDI final : public Form {
 
  protected:
   void load() override;
+  void resized() override;
   bool queryUnload(bool byUser) override;
 };
 

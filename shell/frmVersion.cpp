@@ -67,6 +67,7 @@ void askToClose() {
 
 FrmVersion::FrmVersion() : Form("frmVersion", kKind, Border::None) {
   Caption = "ZEL-VS";
+  setTopmost();  // from the start, so that no window has to be made a second time
   BackColor = kGround;
   Width = kFormWidth;
   Height = kFormHeight;
