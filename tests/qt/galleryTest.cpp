@@ -3,6 +3,7 @@
 
 #include <gtest/gtest.h>
 
+#include <QAccessible>
 #include <QApplication>
 #include <QCheckBox>
 #include <QComboBox>
@@ -337,6 +338,34 @@ TEST_F(GalleryTest, AHandlerMayUnloadItsOwnForm) {
   hands().click(*frmGallery, &frmGallery->picBox);
   settle();
   EXPECT_FALSE(frmGallery.loaded());
+}
+
+QAccessibleInterface* named(QAccessibleInterface& holder, const QString& name) {
+  for (int i = 0; i < holder.childCount(); ++i) {
+    if (holder.child(i)->text(QAccessible::Name) == name) return holder.child(i);
+  }
+  return nullptr;
+}
+
+TEST_F(GalleryTest, ScreenReadersSeeThePaintedControlsByName) {
+  int clicks = 0;
+  frmGallery->picBox.onClick = [&] { ++clicks; };
+  frmGallery->picBox.Tag = "1";
+  QAccessibleInterface* window = QAccessible::queryAccessibleInterface(&canvas());
+  ASSERT_NE(window, nullptr);
+  QAccessibleInterface* box = named(*window, "frmGallery.picBox");
+  ASSERT_NE(box, nullptr);
+  EXPECT_EQ(box->role(), QAccessible::PushButton);
+  EXPECT_EQ(box->text(QAccessible::Value), "1");
+  EXPECT_EQ(box->rect().size(), QSize(100, 60));
+  box->actionInterface()->doAction(QAccessibleActionInterface::pressAction());
+  EXPECT_EQ(clicks, 1);
+  EXPECT_EQ(named(*window, "frmGallery.lblText")->text(QAccessible::Description), "説明");
+  EXPECT_EQ(window->childAt(box->rect().x() + 1, box->rect().y() + 1), box);
+  frmGallery->picBox.Visible = false;
+  EXPECT_EQ(named(*window, "frmGallery.picBox"), nullptr);
+  frmGallery->unload();
+  EXPECT_FALSE(box->isValid());
 }
 
 TEST_F(GalleryTest, TheFrameHoldsItsToolBarAtEveryWidth) {

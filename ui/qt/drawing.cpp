@@ -3,6 +3,8 @@
 #include <QGuiApplication>
 #include <QHash>
 #include <QScreen>
+#include <QStaticText>
+#include <utility>
 
 #include "ui/controls.h"
 #include "ui/form.h"
@@ -45,16 +47,40 @@ double emOf(double points) {
   return points * kTwipsPerPoint / kTwipsPerPixel;
 }
 
-void drawLine(QPainter& painter, const QString& text, double left, double lineTop, double points) {
+/// A text whose letters have been laid out, which costs far more than drawing them.
+struct LaidOutText {
+  QStaticText letters;
+  double ascent;
+};
+
+const LaidOutText& laidOut(const QString& text, double points, bool bold) {
+  constexpr int kMostKept = 4096;
+  static QHash<std::pair<QString, std::pair<double, bool>>, LaidOutText> kept;
+  const std::pair<QString, std::pair<double, bool>> key(text, {points, bold});
+  auto found = kept.find(key);
+  if (found == kept.end()) {
+    if (kept.size() >= kMostKept) kept.clear();
+    const QFont font = fontOf(points, bold);
+    LaidOutText fresh{QStaticText(text), QFontMetricsF(font).ascent()};
+    fresh.letters.setTextFormat(Qt::PlainText);
+    fresh.letters.prepare(QTransform(), font);
+    found = kept.insert(key, fresh);
+  }
+  return *found;
+}
+
+void drawLine(QPainter& painter, const QString& text, double left, double lineTop, double points, bool bold) {
+  if (text.isEmpty()) return;
   const double em = emOf(points);
   const double line = lineHeight(points) / kTwipsPerPixel;
-  painter.drawText(QPointF(left, lineTop + (line - em) / 2 + em * kBaseline), text);
+  const LaidOutText& shape = laidOut(text, points, bold);
+  painter.setFont(fontOf(points, bold));
+  painter.drawStaticText(QPointF(left, lineTop + (line - em) / 2 + em * kBaseline - shape.ascent), shape.letters);
 }
 
 void drawText(QPainter& painter, const Control& control, const QRectF& place, Alignment alignment, bool centred) {
   const double points = control.FontSize;
   const double line = lineHeight(points) / kTwipsPerPixel;
-  painter.setFont(fontOf(points, control.FontBold));
   painter.setPen(colourOf(control.ForeColor));
   const QStringList lines = QString::fromStdString(control.Caption.get()).split('\n');
   double top = place.top() + (centred ? (place.height() - line * lines.size()) / 2 : 0);
@@ -64,7 +90,7 @@ void drawText(QPainter& painter, const Control& control, const QRectF& place, Al
     double left = place.left();
     if (alignment == Alignment::Right) left = place.right() - width;
     if (alignment == Alignment::Center) left = place.left() + (place.width() - width) / 2;
-    drawLine(painter, text, left, top, points);
+    drawLine(painter, text, left, top, points, control.FontBold);
     top += line;
   }
 }
@@ -96,8 +122,7 @@ void draw(QPainter& painter, const PictureBox& box, const QRectF& place) {
     painter.setPen(QPen(colourOf(operation.colour), 1));
     const QPointF from(place.left() + operation.x1 * unit, place.top() + operation.y1 * unit);
     if (operation.isText) {
-      painter.setFont(fontOf(operation.fontSize, box.FontBold));
-      drawLine(painter, QString::fromStdString(operation.text), from.x(), from.y(), operation.fontSize);
+      drawLine(painter, QString::fromStdString(operation.text), from.x(), from.y(), operation.fontSize, box.FontBold);
     } else {
       painter.drawLine(from, QPointF(place.left() + operation.x2 * unit, place.top() + operation.y2 * unit));
     }

@@ -2,13 +2,14 @@
 
 #include <QApplication>
 #include <QCursor>
-#include <QFontDatabase>
+#include <QIcon>
 #include <QMessageBox>
 #include <QScreen>
 #include <QStyle>
 #include <QStyleFactory>
 
 #include "ui/desk.h"
+#include "ui/qt/accessibility.h"
 #include "ui/qt/drawing.h"
 
 namespace zelvs {
@@ -110,6 +111,8 @@ void setUpLook() {
   palette.setColor(QPalette::Text, Qt::black);
   QApplication::setPalette(palette);
   QApplication::setQuitOnLastWindowClosed(false);
+  QApplication::setWindowIcon(QIcon(":/pictures/ilsLogo.svg"));
+  setUpAccessibility();
 }
 
 }  // namespace zelvs

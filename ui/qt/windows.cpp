@@ -148,6 +148,7 @@ void Windows::formUnloaded(Form& form) {
   const QScopedValueRollback<bool> following(following_, true);
   const Shown shown = shown_.take(&form);
   changed_.remove(&form);
+  placed_.remove(&form);
   if (shown.window == nullptr) return;
   shown.canvas->forgetForm();
   shown.window->hide();
@@ -159,10 +160,15 @@ void Windows::formUnloaded(Form& form) {
   shown.window->deleteLater();
 }
 
-void Windows::formChanged(Form& form) {
+void Windows::markChanged(QSet<Form*>& forms, Form& form) {
   if (!shown_.contains(&form)) return;  // still being made
-  changed_.insert(&form);
+  forms.insert(&form);
   schedule();
+}
+
+void Windows::formChanged(Form& form) {
+  markChanged(placed_, form);
+  markChanged(changed_, form);  // its ground is painted with its controls
 }
 
 void Windows::orderChanged() {
@@ -171,7 +177,7 @@ void Windows::orderChanged() {
 }
 
 void Windows::controlsChanged(Form& form) {
-  formChanged(form);
+  markChanged(changed_, form);
 }
 
 void Windows::repaint(Form& form) {
@@ -188,13 +194,14 @@ void Windows::schedule() {
 void Windows::flush() {
   scheduled_ = false;
   const QScopedValueRollback<bool> following(following_, true);
-  const QSet<Form*> forms = std::exchange(changed_, {});
-  for (Form* form : forms) {
+  for (Form* form : std::exchange(placed_, {})) {
     const Shown shown = shown_.value(form);
-    if (shown.window->windowTitle() != QString::fromStdString(form->Caption.get())) {
-      shown.window->setWindowTitle(QString::fromStdString(form->Caption.get()));
-    }
+    shown.window->setWindowTitle(QString::fromStdString(form->Caption.get()));
     place(*form, shown);
+    shown.canvas->update();
+  }
+  for (Form* form : std::exchange(changed_, {})) {
+    const Shown shown = shown_.value(form);
     // A hidden window is looked at as a whole when it is shown; its controls stay marked until then.
     if (form->visible()) shown.canvas->showChanges(form->takeChanged());
   }

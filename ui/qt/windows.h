@@ -43,6 +43,7 @@ class Windows final : public QObject {
     Canvas* canvas = nullptr;
     QWidget* window = nullptr;  // main window, sub window of the frame, or the canvas's own top-level window
   };
+  void markChanged(QSet<Form*>& forms, Form& form);
   void schedule();
   QWidget* makeFrame(Form& form, Canvas* canvas);
   QWidget* makeChild(Form& form, Canvas* canvas);
@@ -53,7 +54,8 @@ class Windows final : public QObject {
   Form* formOf(const QObject* window) const;
 
   QHash<const Form*, Shown> shown_;
-  QSet<Form*> changed_;
+  QSet<Form*> changed_;  // controls of these are to be looked at
+  QSet<Form*> placed_;   // title and place of these are
   QMainWindow* frame_ = nullptr;
   QMdiArea* area_ = nullptr;
   bool scheduled_ = false;
