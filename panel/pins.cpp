@@ -33,6 +33,10 @@ constexpr int kClrDown = 4;
 constexpr int kResetUp = 1;
 constexpr int kResetDown = 2;
 
+// Both kinds of pin stand on one centre line.
+constexpr double kSwitchWidth = 450;
+constexpr double kLedWidth = 225;
+
 constexpr std::string_view kInputTip = "IO端子接続 入力ディップ・スイッチ";
 constexpr std::string_view kOutputTip = "IO端子接続 LED(緑）";
 
@@ -152,6 +156,7 @@ void setPin(PictureBox& pin, char kind) {
   const bool input = kind == 'I';
   pin.Picture = input ? frmHard->ilsDIP1.image(kInputOff) : frmHard->ilsLED_G.image(1);
   pin.Left = input ? 240 : 352;
+  pin.Width = input ? kSwitchWidth : kLedWidth;
   pin.Tag = input ? "I0" : "O0";
   pin.ToolTipText = input ? kInputTip : kOutputTip;
 }
