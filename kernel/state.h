@@ -18,6 +18,9 @@ inline constexpr Flag kFalse = 0;
 
 inline constexpr int kChipMemorySize = 2048;
 
+/// Apart from the arrays, so that their access stays small enough to be built into a step.
+[[noreturn]] void sharedIndexError(int index, int first, int last);
+
 /// An array with its own first index. An index outside is a run-time error.
 template <class T, int First, int Last>
 struct SharedArray {
@@ -32,10 +35,7 @@ struct SharedArray {
 
  private:
   static constexpr int checked(int index) {
-    if (index < First || index > Last) [[unlikely]] {
-      runTimeError("index " + std::to_string(index) + " is outside " + std::to_string(First) + " to " +
-                   std::to_string(Last));
-    }
+    if (index < First || index > Last) [[unlikely]] sharedIndexError(index, First, Last);
     return index - First;
   }
 };

@@ -5,6 +5,11 @@
 
 namespace zelvs {
 
+void sharedIndexError(int index, int first, int last) {
+  runTimeError("index " + std::to_string(index) + " is outside " + std::to_string(first) + " to " +
+               std::to_string(last));
+}
+
 namespace {
 
 /// Calls action with a pointer to a value of the variable's own type.

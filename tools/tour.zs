@@ -2,16 +2,9 @@
 wait 500
 screenshot all bench.png
 
-# The about window is the splash without its progress bar.
-click frmMDI.lblVersion
-screenshot frmVersion about.png
-click frmVersion
-
-# While the program is coming up the same window shows how far it is.
-set startupDone 0
+# The splash, which is the about window once the program is up.
 click frmMDI.lblVersion
 screenshot frmVersion splash.png
-set startupDone -1
 click frmVersion
 
 # A DI switch of board 1 reaches memory and raises the interrupt.

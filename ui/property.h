@@ -41,7 +41,9 @@ class Property {
   const T& get() const { return value_; }
 
   friend bool operator==(const Property& property, std::string_view text) requires std::same_as<T, std::string> {
-    return std::string_view(property.value_) == text;
+    // With a literal the length is known when this is compiled: the engine asks so for a Tag several times a step.
+    return property.value_.size() == text.size() &&
+           std::char_traits<char>::compare(property.value_.data(), text.data(), text.size()) == 0;
   }
   friend bool operator==(const Property& property, const T& value) requires(!std::same_as<T, std::string>) {
     return property.value_ == value;
