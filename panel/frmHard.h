@@ -34,6 +34,25 @@ class FrmHard final : public Form {
   ImageList ilsDIP3{"ilsDIP3", 8};          // IOS mode + 1
   ImageList ilsMotor{"ilsMotor", 11};       // 1 to 3 belt frames, 4 to 11 duty levels
 
+  // Pictures that never change.
+  ImageList ilsBoardCenter{"ilsBoardCenter", 1};
+  ImageList ilsBoardMaster{"ilsBoardMaster", 1};
+  ImageList ilsBoardSlave{"ilsBoardSlave", 1};
+  ImageList ilsBoardIo{"ilsBoardIo", 1};
+  ImageList ilsBoardMotor{"ilsBoardMotor", 1};
+  ImageList ilsChip{"ilsChip", 6};      // board + 1
+  ImageList ilsPart{"ilsPart", 8};      // jack, driver, transformer, terminator, crystal, three spare parts
+  ImageList ilsBus{"ilsBus", 1};        // the CPU's connector
+  ImageList ilsHeader{"ilsHeader", 1};  // the slave's connector
+  ImageList ilsSerial{"ilsSerial", 2};  // serial input circuit, pulses on its line
+  ImageList ilsStrobe{"ilsStrobe", 2};  // DO strobe, DI strobe
+  ImageList ilsMode{"ilsMode", 1};      // counter mode switch
+  ImageList ilsPad{"ilsPad", 1};        // a pin to measure at
+  ImageList ilsDrive{"ilsDrive", 1};    // motor drive circuit
+  ImageList ilsCoil{"ilsCoil", 1};      // the middle of a network cable
+  ImageList ilsBridge{"ilsBridge", 1};
+  ImageList ilsMotorCable{"ilsMotorCable", 1};
+
   // Boards
   ControlArray<Shape> picShadow{this, "picShadow", 0, 6};
   ControlArray<PictureBox> picBoard{this, "picBoard", 0, 6};
@@ -110,6 +129,10 @@ class FrmHard final : public Form {
   ControlArray<PictureBox> picCableDn{this, "picCableDn", 0, 2};
   PictureBox picNoise{this, "picNoise"};
 
+  // Pin numbers and names of parts. 164 names the noise button; the others are given out as layout.cpp walks its
+  // tables.
+  ControlArray<Label> lblTitle{this, "lblTitle", 0, 222};
+
   Timer timMotor{this, "timMotor"};
   Timer timSE{this, "timSE"};
   Sound mmcBeep{this, "mmcBeep"};
@@ -120,6 +143,9 @@ class FrmHard final : public Form {
   void initCombo();
   /// Warns of the first two boards on the line that have one station address.
   void chkSADup();
+
+  /// The bench stays as long as the program: its controls are the simulated hardware.
+  bool hasCloseBox() const override { return false; }
 
  protected:
   void load() override;
