@@ -124,7 +124,8 @@ double leadingNumber(std::string_view text) {
     const std::string digits = "0." + std::string(text.substr(fraction, at - fraction)) + "0";
     number += std::strtod(digits.c_str(), nullptr);
   }
-  return negative ? -number : number;
+  // "-x" is plain 0, not a negative one.
+  return negative && number != 0 ? -number : number;
 }
 
 short wholeNumber16(double number) {
@@ -188,8 +189,12 @@ std::string getIniValue(std::string_view section, std::string_view key, std::str
 void writeIniValue(std::string_view section, std::string_view key, std::string_view value) {
   std::error_code error;
   fs::path path = iniFilePath;
-  if (fs::is_symlink(path, error)) path = fs::canonical(path, error);
-  if (error || !writable(path)) return;
+  if (fs::is_symlink(path, error)) {
+    path = fs::canonical(path, error);
+    if (error) return;
+  }
+  // From here on a missing file is no error: the first value written makes it.
+  if (!writable(path)) return;
   fs::path fresh = path;
   fresh += ".new";
   if (writeWhole(fresh, withValue(readWhole(path.string()), section, key, value))) {

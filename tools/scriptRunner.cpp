@@ -2,6 +2,7 @@
 
 #include <array>
 #include <charconv>
+#include <climits>
 #include <cmath>
 #include <cstdlib>
 #include <iostream>
@@ -55,10 +56,18 @@ std::optional<std::int64_t> wholeNumber(std::string_view text) {
   if (negative) text.remove_prefix(1);
   const bool hexadecimal = text.starts_with("0x") || text.starts_with("0X");
   if (hexadecimal) text.remove_prefix(2);
+  if (text.starts_with('-')) return std::nullopt;  // a second sign
   std::int64_t number = 0;
   const auto result = std::from_chars(text.data(), text.data() + text.size(), number, hexadecimal ? 16 : 10);
   if (text.empty() || result.ec != std::errc() || result.ptr != text.data() + text.size()) return std::nullopt;
   return negative ? -number : number;
+}
+
+/// A whole number that fits an int: one that does not must not come out as another.
+std::optional<int> smallNumber(std::string_view text) {
+  const auto number = wholeNumber(text);
+  if (!number || *number < INT_MIN || *number > INT_MAX) return std::nullopt;
+  return static_cast<int>(*number);
 }
 
 std::optional<double> anyNumber(std::string_view text) {
@@ -66,6 +75,7 @@ std::optional<double> anyNumber(std::string_view text) {
   double number = 0;
   const auto result = std::from_chars(text.data(), text.data() + text.size(), number);
   if (text.empty() || result.ec != std::errc() || result.ptr != text.data() + text.size()) return std::nullopt;
+  if (!std::isfinite(number)) return std::nullopt;
   return number;
 }
 
@@ -114,7 +124,9 @@ std::string findForm(std::string_view name, Form*& form) {
 }
 
 std::string findControl(const Form& form, const Piece& piece, Control*& control) {
-  control = form.find(piece.name, piece.index.value_or(-1));
+  // A control outside any array has no index, not even a negative one.
+  const bool negative = piece.index && *piece.index < 0;
+  control = negative ? nullptr : form.find(piece.name, piece.index.value_or(-1));
   if (control != nullptr) return {};
   const bool array = form.hasArray(piece.name);
   if (array) return form.name() + "." + indexed(piece) + (piece.index ? " is not there" : " needs an index");
@@ -178,7 +190,7 @@ std::string bytesText(int address, int count) {
 std::string memoryRange(const std::string& address, std::int64_t count, int& first) {
   const auto number = wholeNumber(address);
   if (!number) return noNumber(address);
-  if (*number < 0 || count < 1 || count > kChipMemorySize || *number + count > kChipMemorySize) {
+  if (*number < 0 || count < 1 || count > kChipMemorySize || *number > kChipMemorySize - count) {
     return "outside chip memory (0x000 to 0x7FF): " + address;
   }
   first = static_cast<int>(*number);
@@ -321,15 +333,15 @@ void ScriptRunner::fillCommands() {
     return hands_.move(*target.form, target.control);
   });
   add("pointer", {2, 2}, [this](const Tokens& words) {
-    const auto x = wholeNumber(words[1]);
-    const auto y = wholeNumber(words[2]);
+    const auto x = smallNumber(words[1]);
+    const auto y = smallNumber(words[2]);
     if (!x || !y) return noNumber(x ? words[2] : words[1]);
-    platform_.setPointer({static_cast<int>(*x), static_cast<int>(*y)});
+    platform_.setPointer({*x, *y});
     return std::string();
   });
   addAtControl("select", 2, [this](Control& control, const Tokens& words) {
-    const auto row = wholeNumber(words[2]);
-    return row ? hands_.pick(control, static_cast<int>(*row)) : noNumber(words[2]);
+    const auto row = smallNumber(words[2]);
+    return row ? hands_.pick(control, *row) : noNumber(words[2]);
   });
   addAtControl("focus", 1, [this](Control& control, const Tokens&) { return hands_.focus(control); });
   addAtControl("type", 2, [this](Control& control, const Tokens& words) {
@@ -340,8 +352,8 @@ void ScriptRunner::fillCommands() {
     return why;
   });
   addAtControl("key", 2, [this](Control& control, const Tokens& words) {
-    const auto code = wholeNumber(words[2]);
-    return code ? hands_.keyDown(control, static_cast<int>(*code)) : noNumber(words[2]);
+    const auto code = smallNumber(words[2]);
+    return code ? hands_.keyDown(control, *code) : noNumber(words[2]);
   });
   addAtForm("close", &Hands::close);
   addAtForm("activate", &Hands::activate);
@@ -372,7 +384,7 @@ void ScriptRunner::fillCommands() {
   add("step", {0, 1}, [count](const Tokens& words) { return count(words, simulationStep); });
   add("tick", {0, 1}, [count](const Tokens& words) { return count(words, timTick_Timer); });
   add("wait", {1, 1}, [this](const Tokens& words) {
-    const auto milliseconds = wholeNumber(words[1]);
+    const auto milliseconds = smallNumber(words[1]);
     if (!milliseconds || *milliseconds < 0) return noNumber(words[1]);
     platform_.advance(*milliseconds);
     return std::string();

@@ -72,7 +72,6 @@ class ScriptRunner {
   std::map<std::string, Command, std::less<>> commands_;
   std::vector<Box> boxes_;
   bool lastRefused_ = false;
-  bool refusalCounts_ = false;
   int refusals_ = 0;
   int failures_ = 0;
 };

@@ -82,9 +82,11 @@ int main(int argc, char** argv) {
   std::string wrong = readOptions(argc, argv, options);
   std::ifstream file;
   if (wrong.empty() && !options.file.empty()) {
-    // A folder opens like a file and then reads as empty: a script that would pass without one command.
-    file.open(options.file);
-    if (!file || !std::filesystem::is_regular_file(options.file)) wrong = "cannot read " + options.file;
+    // A folder opens like a file and then reads as empty, a script that would pass without one command; opening a
+    // pipe that nobody writes to would never end.
+    std::error_code error;
+    if (std::filesystem::is_regular_file(options.file, error)) file.open(options.file);
+    if (!file.is_open()) wrong = "cannot read " + options.file;
   }
   if (!wrong.empty()) {
     std::fprintf(stderr, "zelvs-script: %s\n%s", wrong.c_str(), kUsage);

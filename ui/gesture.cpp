@@ -232,9 +232,14 @@ std::string move(Form& form, Control* control) {
 std::string click(Form& form, Control* control) {
   const Desk::Event event;
   std::string why = press(form, control);
+  if (!why.empty()) return why;
   // The press may have taken the control away: then there is nothing left to release.
-  if (why.empty() && refusal(form, control).empty()) release(form, control);
-  return why;
+  if (refusal(form, control).empty()) {
+    release(form, control);
+  } else {
+    theHeld = {};
+  }
+  return {};
 }
 
 std::string doubleClick(Form& form, Control* control, bool lastRelease) {

@@ -3,6 +3,7 @@
 #include <array>
 #include <cstdint>
 #include <cstdlib>
+#include <filesystem>
 #include <fstream>
 #include <map>
 
@@ -42,6 +43,10 @@ std::int32_t littleEndian32(const unsigned char* bytes) {
 }
 
 PictureFile readBitmapHead(const std::string& path) {
+  // Only a plain file is opened: a pipe that nobody writes to would be waited for without end.
+  std::error_code error;
+  if (!std::filesystem::exists(path, error)) runTimeError("picture file not found: " + path);
+  if (!std::filesystem::is_regular_file(path, error)) runTimeError("not a bitmap picture: " + path);
   std::ifstream file(path, std::ios::binary);
   if (!file) runTimeError("picture file not found: " + path);
   std::array<unsigned char, 26> head{};

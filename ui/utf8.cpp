@@ -19,6 +19,12 @@ char32_t nextCharacter(std::string_view text, std::size_t& at) {
     }
     character = character << 6 | (next & 0x3F);
   }
+  // A longer form than the character needs is damage too: read as the short one, bytes would be lost.
+  constexpr char32_t kSmallest[] = {0, 0x80, 0x800, 0x10000};
+  if (character < kSmallest[following]) {
+    ++at;
+    return lead;
+  }
   at += static_cast<std::size_t>(following) + 1;
   return character;
 }

@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <array>
+#include <filesystem>
 #include <fstream>
 #include <string_view>
 
@@ -38,6 +39,9 @@ bool ScriptedPlatform::openSound(const std::string& path) {
 }
 
 bool isWaveFile(const std::string& path) {
+  // A pipe that nobody writes to would be waited for without end.
+  std::error_code error;
+  if (!std::filesystem::is_regular_file(path, error)) return false;
   std::ifstream file(path, std::ios::binary);
   std::array<char, 12> head{};
   file.read(head.data(), head.size());

@@ -1,0 +1,3 @@
+#ini CPUTYPE=4
+#status 3
+echo never

@@ -1,0 +1,3 @@
+#ini MODE-QVT50=-1
+#status 3
+echo never
