@@ -35,7 +35,8 @@ struct SharedArray {
 
  private:
   static constexpr int checked(int index) {
-    if (index < First || index > Last) [[unlikely]] sharedIndexError(index, First, Last);
+    if (index < First || index > Last) [[unlikely]]
+      sharedIndexError(index, First, Last);
     return index - First;
   }
 };

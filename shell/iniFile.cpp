@@ -47,41 +47,48 @@ bool sameName(std::string_view a, std::string_view b) {
   return std::equal(a.begin(), a.end(), b.begin(), b.end(), [&](char x, char y) { return lower(x) == lower(y); });
 }
 
-/// A key's line, and where one would be added, as byte positions in the file's text.
-struct Found {
-  bool section = false;
-  std::optional<std::string_view> value;  // as it stands behind the "="
-  std::size_t lineStart = 0;              // of the key's line, when there is a value
-  std::size_t lineEnd = 0;                // behind it, without its line end
-  std::size_t sectionEnd = 0;             // behind the section's last line that is not blank, its line end included
+/// One "key=value" line; positions are bytes of the file's text.
+struct Entry {
+  std::string_view key;
+  std::string_view value;  // as it stands behind the "="
+  std::size_t lineStart = 0;
+  std::size_t lineEnd = 0;  // behind the line, without its line end
 };
 
-Found find(std::string_view text, std::string_view section, std::string_view key) {
-  Found found;
+/// Calls visit with each entry of the first section of that name, until it returns false. The result is the position
+/// behind the section's last line that is not blank, its line end included, as far as it was read; nothing when there
+/// is no such section.
+template <class Visit>
+std::optional<std::size_t> walkSection(std::string_view text, std::string_view section, Visit visit) {
+  std::optional<std::size_t> sectionEnd;
   std::size_t at = text.starts_with(kByteOrderMark) ? kByteOrderMark.size() : 0;
   while (at < text.size()) {
     const std::size_t end = std::min(text.find('\n', at), text.size());
     const std::size_t next = std::min(end + 1, text.size());
     const std::string_view line = trimmed(text.substr(at, end - at));
     if (line.starts_with('[')) {
-      if (found.section) return found;
+      if (sectionEnd) return sectionEnd;
       const std::size_t close = line.find(']');
-      found.section = close != std::string_view::npos && sameName(trimmed(line.substr(1, close - 1)), section);
-      found.sectionEnd = next;
-    } else if (found.section && !line.empty()) {
-      found.sectionEnd = next;
+      if (close != std::string_view::npos && sameName(trimmed(line.substr(1, close - 1)), section)) sectionEnd = next;
+    } else if (sectionEnd && !line.empty()) {
+      sectionEnd = next;
       const std::size_t equals = line.find('=');
-      const bool comment = line.starts_with(';');
-      if (!comment && equals != std::string_view::npos && sameName(trimmed(line.substr(0, equals)), key)) {
-        found.value = line.substr(equals + 1);
-        found.lineStart = at;
-        found.lineEnd = end > at && text[end - 1] == '\r' ? end - 1 : end;
-        return found;
+      if (!line.starts_with(';') && equals != std::string_view::npos) {
+        const std::size_t lineEnd = end > at && text[end - 1] == '\r' ? end - 1 : end;
+        if (!visit(Entry{trimmed(line.substr(0, equals)), line.substr(equals + 1), at, lineEnd})) return sectionEnd;
       }
     }
     at = next;
   }
-  return found;
+  return sectionEnd;
+}
+
+std::string valueOf(const Entry& entry) {
+  std::string_view value = trimmed(entry.value);
+  if (value.size() >= 2 && value.front() == value.back() && (value.front() == '"' || value.front() == '\'')) {
+    value = value.substr(1, value.size() - 2);
+  }
+  return std::string(value.substr(0, kLongestValue));
 }
 
 /// A decimal number in full, so that reading it again gives the same: never with an exponent.
@@ -95,14 +102,19 @@ std::string plainNumber(double number) {
 
 Profile::Profile(const std::string& path) : text_(readWhole(path)) {}
 
-std::string Profile::value(std::string_view section, std::string_view key, std::string_view fallback) const {
-  const Found found = find(text_, section, key);
-  if (!found.value) return std::string(fallback);
-  std::string_view value = trimmed(*found.value);
-  if (value.size() >= 2 && value.front() == value.back() && (value.front() == '"' || value.front() == '\'')) {
-    value = value.substr(1, value.size() - 2);
-  }
-  return std::string(value.substr(0, kLongestValue));
+std::vector<std::optional<std::string>> Profile::values(std::string_view section,
+                                                        const std::vector<std::string_view>& keys) const {
+  std::vector<std::optional<std::string>> values(keys.size());
+  std::size_t missing = keys.size();
+  walkSection(text_, section, [&](const Entry& entry) {
+    for (std::size_t i = 0; i < keys.size(); ++i) {
+      if (values[i] || !sameName(entry.key, keys[i])) continue;
+      values[i] = valueOf(entry);
+      --missing;
+    }
+    return missing > 0;
+  });
+  return values;
 }
 
 double leadingNumber(std::string_view text) {
@@ -122,7 +134,9 @@ double leadingNumber(std::string_view text) {
       ++at;
     // The fraction is read as a whole: added up digit by digit, 0.3 would not be what 0.3 is elsewhere.
     const std::string digits = "0." + std::string(text.substr(fraction, at - fraction)) + "0";
-    number += std::strtod(digits.c_str(), nullptr);
+    double part = 0;
+    std::from_chars(digits.data(), digits.data() + digits.size(), part);
+    number += part;
   }
   // "-x" is plain 0, not a negative one.
   return negative && number != 0 ? -number : number;
@@ -136,30 +150,33 @@ short wholeNumber16(double number) {
 
 namespace {
 
-std::string numberIn(const Profile& profile, std::string_view section, std::string_view key,
-                     std::string_view fallback) {
-  const std::string value = profile.value(section, key, fallback);
+/// The leading number of a value, as text; the empty text when there is no value.
+std::string numberText(const std::string& value) {
   return value.empty() ? value : plainNumber(leadingNumber(value));
 }
 
 /// The old file's lines with one key replaced or added.
 std::string withValue(const std::string& text, std::string_view section, std::string_view key, std::string_view value) {
-  const Found found = find(text, section, key);
+  std::optional<Entry> old;
+  const std::optional<std::size_t> sectionEnd = walkSection(text, section, [&](const Entry& entry) {
+    if (sameName(entry.key, key)) old = entry;
+    return !old;
+  });
   const bool unixLines = text.find('\n') != std::string::npos && text.find("\r\n") == std::string::npos;
   const std::string lineEnd = unixLines ? "\n" : "\r\n";
   const std::string line = std::string(key) + "=" + std::string(value);
   std::string result = text;
-  if (found.value) {
-    result.replace(found.lineStart, found.lineEnd - found.lineStart, line);
+  if (old) {
+    result.replace(old->lineStart, old->lineEnd - old->lineStart, line);
     return result;
   }
-  std::size_t at = found.section ? found.sectionEnd : text.size();
+  std::size_t at = sectionEnd.value_or(text.size());
   const auto add = [&](const std::string& piece) {
     result.insert(at, piece);
     at += piece.size();
   };
   if (at > 0 && text[at - 1] != '\n') add(lineEnd);
-  if (!found.section) add("[" + std::string(section) + "]" + lineEnd);
+  if (!sectionEnd) add("[" + std::string(section) + "]" + lineEnd);
   add(line + lineEnd);
   return result;
 }
@@ -183,7 +200,7 @@ bool writable(const fs::path& path) {
 }  // namespace
 
 std::string getIniValue(std::string_view section, std::string_view key, std::string_view fallback) {
-  return numberIn(Profile(iniFilePath), section, key, fallback);
+  return numberText(Profile(iniFilePath).values(section, {key})[0].value_or(std::string(fallback)));
 }
 
 void writeIniValue(std::string_view section, std::string_view key, std::string_view value) {
@@ -249,9 +266,13 @@ void copyTransferSetting() {
 
 void readIniFile() {
   iniFilePath = programFolder + "/ZELVS.INI";
-  const Profile profile(iniFilePath);
-  for (const Setting& setting : settings()) {
-    *setting.variable = wholeNumber16(leadingNumber(numberIn(profile, kIniSection, setting.key, "")));
+  std::vector<std::string_view> keys;
+  for (const Setting& setting : settings())
+    keys.push_back(setting.key);
+  // All keys in one pass: a file may be large.
+  const auto values = Profile(iniFilePath).values(kIniSection, keys);
+  for (std::size_t i = 0; i < keys.size(); ++i) {
+    *settings()[i].variable = wholeNumber16(leadingNumber(numberText(values[i].value_or(std::string()))));
   }
   copyTransferSetting();
 }

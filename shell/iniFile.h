@@ -1,7 +1,9 @@
 #pragma once
 
+#include <optional>
 #include <string>
 #include <string_view>
+#include <vector>
 
 namespace zelvs {
 
@@ -14,9 +16,10 @@ class Profile {
  public:
   explicit Profile(const std::string& path);
 
-  /// The value without the blanks, and one pair of quotation marks, around it; fallback when there is none. At most
-  /// 255 bytes long.
-  std::string value(std::string_view section, std::string_view key, std::string_view fallback) const;
+  /// The values of keys, in their order, each without the blanks and one pair of quotation marks around it and at
+  /// most 255 bytes long; nothing for a key that is not there.
+  std::vector<std::optional<std::string>> values(std::string_view section,
+                                                 const std::vector<std::string_view>& keys) const;
 
  private:
   std::string text_;

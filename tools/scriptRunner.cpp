@@ -235,6 +235,8 @@ bool ScriptRunner::runNext() {
   if (prompt_) out_ << ">" << std::endl;
   std::string line;
   if (!std::getline(in_, line)) return false;
+  constexpr std::string_view kByteOrderMark = "\xEF\xBB\xBF";
+  if (line.starts_with(kByteOrderMark)) line.erase(0, kByteOrderMark.size());
   runLine(line);
   if (prompt_) out_.flush();
   return true;

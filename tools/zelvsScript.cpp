@@ -82,10 +82,10 @@ int main(int argc, char** argv) {
   std::string wrong = readOptions(argc, argv, options);
   std::ifstream file;
   if (wrong.empty() && !options.file.empty()) {
-    // A folder opens like a file and then reads as empty, a script that would pass without one command; opening a
-    // pipe that nobody writes to would never end.
+    // A folder opens like a file and then reads as empty: a script that would pass without one command. A pipe is
+    // fine: another program may be writing the script.
     std::error_code error;
-    if (std::filesystem::is_regular_file(options.file, error)) file.open(options.file);
+    if (!std::filesystem::is_directory(options.file, error)) file.open(options.file);
     if (!file.is_open()) wrong = "cannot read " + options.file;
   }
   if (!wrong.empty()) {

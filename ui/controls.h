@@ -210,7 +210,7 @@ class Sound : public Control {
   Property<std::string> DeviceType{this};
   Property<std::string> FileName{this};
 
-  /// False when the command failed or the device is not open. "Prev" goes back to the start.
+  /// False for an unknown command and for an "Open" that failed. "Prev" goes back to the start.
   bool command(std::string_view text);
 };
 

@@ -106,16 +106,20 @@ void Desk::hide(Form& form) {
   if (active_ != &form) return;
   active_ = nullptr;
   form.deactivated();
-  if (active_ == nullptr && !ended_) activateFront();
+  if (active_ == nullptr && !ended_) activateLatest();
 }
 
-void Desk::activateFront() {
+void Desk::activateLatest() {
   if (modal() != nullptr) {
     activate(*modal());
     return;
   }
-  const auto front = std::find_if(forms_.begin(), forms_.end(), [](const Form* form) { return form->visible(); });
-  if (front != forms_.end()) activate(**front);
+  // The one that the user was at before, wherever it lies in the order of windows.
+  Form* latest = nullptr;
+  for (Form* form : forms_) {
+    if (form->visible() && (latest == nullptr || form->lastActive_ > latest->lastActive_)) latest = form;
+  }
+  if (latest != nullptr) activate(*latest);
 }
 
 void Desk::activate(Form& form) {
@@ -131,6 +135,7 @@ void Desk::activate(Form& form) {
     before.deactivated();
   }
   active_ = &form;
+  form.lastActive_ = ++activations_;
   platform().orderChanged();
   form.activated();
   Control* control = form.activeControl_;

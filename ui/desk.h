@@ -53,13 +53,14 @@ class Desk {
   void hide(Form& form);
   void drop(Form& form);
   void raise(Form& form);
-  void activateFront();
+  void activateLatest();
 
   std::vector<Form*> forms_;
   std::vector<Form*> modals_;
   Form* active_ = nullptr;
   Control* focused_ = nullptr;
   bool ended_ = false;
+  unsigned long activations_ = 0;
   int events_ = 0;
   std::vector<std::unique_ptr<Form>> dropped_;
 };

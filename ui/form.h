@@ -123,6 +123,7 @@ class Form : public PropertyOwner {
   bool floating_ = false;
   Form* owner_ = nullptr;
   Control* activeControl_ = nullptr;
+  unsigned long lastActive_ = 0;  // rises with each activation of any form
   std::vector<Control*> controls_;
   std::vector<Control*> topControls_;
   std::vector<std::pair<std::string, Member>> members_;

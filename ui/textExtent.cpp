@@ -11,9 +11,7 @@ namespace zelvs {
 namespace {
 
 bool halfWidth(char32_t character) {
-  constexpr char32_t kFirstHalfWidthKana = 0xFF61;
-  constexpr char32_t kLastHalfWidthKana = 0xFF9F;
-  return character < 0x80 || (character >= kFirstHalfWidthKana && character <= kLastHalfWidthKana);
+  return character < 0x80;
 }
 
 }  // namespace

@@ -7,8 +7,8 @@ namespace zelvs {
 class Control;
 
 /// Width of a text in twips. The program draws all text in one fixed-width family whose ASCII is half as wide as its
-/// ideographs, so that the model knows every width without asking the screen: half the font's height for ASCII and
-/// half-width kana, the whole height otherwise. The widest line counts.
+/// ideographs, so that the model knows every width without asking the screen: half the font's height for ASCII, the
+/// whole height otherwise (half-width kana, which are narrower, get the same room). The widest line counts.
 double textWidth(std::string_view text, double fontSize);
 /// Height of one line, in twips, the gap to the next one included.
 double lineHeight(double fontSize);

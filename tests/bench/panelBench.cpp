@@ -52,7 +52,8 @@ Canvas& panelCanvas() {
 void paintWholePanel(benchmark::State& state) {
   Canvas& canvas = panelCanvas();
   QImage image(canvas.size(), QImage::Format_ARGB32_Premultiplied);
-  for (auto _ : state) canvas.render(&image);
+  for (auto _ : state)
+    canvas.render(&image);
 }
 BENCHMARK(paintWholePanel)->Unit(benchmark::kMillisecond);
 
@@ -73,7 +74,8 @@ void tickWithEveryDoChanging(benchmark::State& state) {
   std::uint8_t word = 0;
   for (auto _ : state) {
     word = static_cast<std::uint8_t>(~word);
-    for (int address = 0x82; address < 0x8C; ++address) chipMemory[address] = word;
+    for (int address = 0x82; address < 0x8C; ++address)
+      chipMemory[address] = word;
     timTick_Timer();
     QApplication::processEvents();
   }

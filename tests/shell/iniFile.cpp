@@ -26,7 +26,7 @@ class IniFileTest : public ProgramTest {
   void write(const std::string& text) { folder.write("ZELVS.INI", text); }
   std::string read() { return folder.read("ZELVS.INI"); }
   std::string get(std::string_view key) { return getIniValue("INIT", key, ""); }
-  std::string raw(std::string_view key) { return Profile(iniFilePath).value("INIT", key, "fallback"); }
+  std::string raw(std::string_view key) { return Profile(iniFilePath).values("INIT", {key})[0].value_or("fallback"); }
   std::vector<std::string> names() {
     std::vector<std::string> found;
     for (const auto& entry : fs::directory_iterator(folder.path()))
