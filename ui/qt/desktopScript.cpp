@@ -136,7 +136,9 @@ class WindowedHands final : public Hands {
 
   std::string screenshot(Form* form, const std::string& file) override {
     settle();
-    const QPixmap picture = form != nullptr ? windows_.windowOf(*form)->grab() : wholeScreen();
+    const QPixmap picture = form == nullptr                    ? wholeScreen()
+                            : form->kind() == FormKind::Window ? withCaption(*form, *windows_.windowOf(*form))
+                                                               : windows_.windowOf(*form)->grab();
     return picture.save(QString::fromStdString(file), "PNG") ? std::string() : "cannot write " + file;
   }
 
@@ -202,6 +204,22 @@ class WindowedHands final : public Hands {
     return {};
   }
 
+  /// A window as a desk shows it. Off-screen nobody draws its caption bar: a plain one stands in.
+  static QPixmap withCaption(const Form& form, QWidget& window) {
+    const QPixmap inside = window.grab();
+    if (form.border() == Border::None || QGuiApplication::platformName() != "offscreen") return inside;
+    const int bar = qRound(platform().captionHeight() / kTwipsPerPixel);
+    QPixmap whole(inside.width(), inside.height() + qRound(bar * inside.devicePixelRatio()));
+    whole.setDevicePixelRatio(inside.devicePixelRatio());
+    whole.fill(QApplication::palette().color(QPalette::Highlight));
+    QPainter painter(&whole);
+    painter.setPen(Qt::white);
+    painter.setFont(fontOf(9, true));
+    painter.drawText(QRect(0, 0, window.width(), bar), Qt::AlignCenter, window.windowTitle());
+    painter.drawPixmap(0, bar, inside);
+    return whole;
+  }
+
   QPixmap wholeScreen() const {
     QMainWindow* frame = windows_.frame();
     const Screen screen = screenOfQt();
@@ -215,7 +233,7 @@ class WindowedHands final : public Hands {
     for (auto at = order.rbegin(); at != order.rend(); ++at) {
       if ((*at)->kind() != FormKind::Window || !(*at)->visible()) continue;
       QWidget* window = windows_.windowOf(**at);
-      painter.drawPixmap(window->pos(), window->grab());
+      painter.drawPixmap(window->pos(), withCaption(**at, *window));
     }
     return picture;
   }

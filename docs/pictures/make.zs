@@ -1,0 +1,51 @@
+# Makes the pictures of this folder: run it here with zelvs-script --desktop.
+wait 200
+poke 0x82 0xFF 0x55 0x0F 0xF0 0x81 0x18 0xAA 0x55 0x3C 0xC3
+wait 100
+click frmHard.picPI(3)
+click frmHard.picPI(10)
+wait 100
+screenshot all bench.png
+screenshot frmHard panel-all-connected.png
+
+dblclick frmHard.picIOS
+screenshot frmHard panel-list-open.png
+select frmHard.cmbIOS 0
+wait 100
+screenshot frmHard panel-ios0.png
+dblclick frmHard.picIOS
+select frmHard.cmbIOS 6
+poke 0x8A 0x6F 0x05
+wait 100
+screenshot frmHard panel-ios6.png
+dblclick frmHard.picIOS
+select frmHard.cmbIOS 7
+poke 0x8A 0x60 0x05
+wait 1100
+screenshot frmHard panel-ios7-motor.png
+dblclick frmHard.picIOS
+select frmHard.cmbIOS 5
+
+dblclick frmHard.picBridge(0)
+dblclick frmHard.picBridge(1)
+screenshot frmHard panel-slaves-pulled.png
+dblclick frmHard.picFConn(0)
+dblclick frmHard.picFConn(2)
+
+# Half duplex: no scan may run while the jumper is moved.
+dblclick frmHard.picReset(0)
+dblclick frmHard.picJumper(0)
+click frmDialog.cmdAction(0)
+screenshot frmDialog dialog.png
+click frmDialog.cmdAction(0)
+screenshot frmHard panel-half-duplex.png
+
+dblclick frmHard.picBOARD1_RXD(0)
+click frmHard.picCableUp(1)
+click frmHard.picCableUp(2)
+dblclick frmHard.picBridge(0)
+dblclick frmHard.picBridge(1)
+screenshot frmHard panel-nothing-connected.png
+
+click frmMDI.lblVersion
+screenshot frmVersion splash.png
