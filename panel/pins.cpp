@@ -6,6 +6,7 @@
 #include "kernel/outputStage.h"
 #include "kernel/resets.h"
 #include "kernel/state.h"
+#include "learning/messages.h"
 #include "panel/frmHard.h"
 #include "panel/panelSetup.h"
 #include "panel/pinModes.h"
@@ -149,6 +150,10 @@ void turnSettingSwitch(PictureBox& input) {
   input.Tag = high ? "1" : "0";
 }
 
+void picSDI_DblClick(int i) {
+  if (serialPending[i] == kTrue) showMessage("SEがローレベル(LED点灯)中は入力できません。");
+}
+
 void setPin(PictureBox& pin, char kind) {
   // A pin that the mode does not have is only hidden: its Tag stays as it was.
   pin.Visible = kind != '*';
@@ -250,6 +255,7 @@ void attachPins(FrmHard& panel) {
   panel.picReset.on(&Control::onMouseUp, picReset_MouseUp);
   panel.picSSA.on(&Control::onDblClick, [](int i) { turnSettingSwitch(frmHard->picSSA(i)); });
   panel.picSSB.on(&Control::onDblClick, [](int i) { turnSettingSwitch(frmHard->picSSB(i)); });
+  panel.picSDI.on(&Control::onDblClick, picSDI_DblClick);
   panel.timMotor.onTimer = turnBelt;
   panel.timSE.onTimer = timSE_Timer;
   panel.timSE.Enabled = false;

@@ -22,11 +22,21 @@ void call(const std::function<void()>& handler) {
   if (handler) handler();
 }
 
+bool isOpenList(const Control* control) {
+  return control != nullptr && control->kind() == ControlKind::ComboBox &&
+         static_cast<const ComboBox*>(control)->Unrolled;
+}
+
 std::string turnTo(Form& form, Control* control) {
   std::string why = refusal(form, control);
   if (!why.empty()) return why;
   desk().activate(form);
-  if (control != nullptr && control->takesFocus()) desk().focus(control);
+  if (control != nullptr && control->takesFocus()) {
+    desk().focus(control);
+  } else if (isOpenList(desk().focused())) {
+    // A list that lies open closes at a press beside it, also where nothing else can take the focus.
+    desk().focus(nullptr);
+  }
   return {};
 }
 

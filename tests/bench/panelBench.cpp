@@ -34,7 +34,7 @@ Canvas& panelCanvas() {
   static char name[] = "bench";
   static char* argv[] = {name, nullptr};
   static Canvas* canvas = [] {
-    qputenv("QT_QPA_PLATFORM", "offscreen");
+    if (!qEnvironmentVariableIsSet("QT_QPA_PLATFORM")) qputenv("QT_QPA_PLATFORM", "offscreen");
     static DesktopScript& desktop = *new DesktopScript(argc, argv);
     (void)desktop;
     programFolder = benchFolder().string();

@@ -110,6 +110,16 @@ TEST_P(OpenerTest, LeavingTheListForAnotherControlTakesOverAndCloses) {
   release(frmHard->picNoise);
 }
 
+TEST_P(OpenerTest, AClickBesideTheListCloses) {
+  doubleClick(picture());
+  EXPECT_EQ(gesture::click(*frmHard, nullptr), "");  // the bare table
+  EXPECT_FALSE(list().Visible);
+  expectPointer(2);
+  doubleClick(picture());
+  click(frmHard->lblBoardName(0));
+  EXPECT_FALSE(list().Visible);
+}
+
 TEST_P(OpenerTest, EscapeCloses) {
   doubleClick(picture());
   EXPECT_EQ(gesture::keyDown(list(), key::kEscape), "");

@@ -384,6 +384,17 @@ TEST_F(PinsTest, SettingSwitchesTurnHighFirstAndThenLow) {
 
 // ---- The serial line's own timer
 
+TEST_F(PinsTest, UnreadSerialDataRefusesMore) {
+  for (int i = 0; i < 4; ++i) {
+    doubleClick(frmHard->picSDI(i));
+    EXPECT_EQ(refusal(), "") << i;
+    serialPending[i] = kTrue;
+    doubleClick(frmHard->picSDI(i));
+    EXPECT_EQ(refusal(), "SEがローレベル(LED点灯)中は入力できません。") << i;
+    EXPECT_EQ(serialPending[i], kTrue);
+  }
+}
+
 TEST_F(PinsTest, TheSerialTimerCountsDownOnceAndStops) {
   const char* before[] = {"2", "1", "0", ""};
   const char* after[] = {"1", "0", "0", "0"};
