@@ -62,11 +62,21 @@ inline std::vector<NaviRecord> naviIndex;  ///< the list's order, from 0
 
 enum RunMode : std::int16_t { kRun = 0, kStop = 1, kSlow = 2, kOneTime = 3, kRestarting = 4 };
 
+/// The CPU's side of the chip, by cpuType.
+inline bool wideBus() {
+  return (cpuType & 1) == 0;
+}
+inline bool bigEndian() {
+  return (cpuType & 2) != 0;
+}
+
 // Register addresses in chipMemory. Low byte at the even address, high byte behind it.
 inline constexpr int kScrLow = 0x580;
 inline constexpr int kScrHigh = 0x581;
 inline constexpr int kSsrLow = 0x582;
 inline constexpr int kSsrHigh = 0x583;
+inline constexpr int kHprLow = 0x584;   ///< read side
+inline constexpr int kHprHigh = 0x585;  ///< write side
 inline constexpr int kInt0Status = 0x586;
 inline constexpr int kInt0Enable = 0x587;
 inline constexpr int kInt1Status = 0x588;

@@ -58,6 +58,13 @@ void Form::move(double left, double top) {
   Top = top;
 }
 
+void Form::keepOnScreen() {
+  const Screen screen = platform().screen();
+  const double right = screen.width * kTwipsPerPixel - Width;
+  const double bottom = screen.height * kTwipsPerPixel - Height;
+  move(std::max(0.0, std::min<double>(Left, right)), std::max(0.0, std::min<double>(Top, bottom)));
+}
+
 double Form::clientHeight() const {
   return Height - (border_ == Border::None ? 0 : platform().captionHeight());
 }

@@ -61,6 +61,9 @@ class Form : public PropertyOwner {
   void setTopmost();
   void setFloating(bool floating);
   void move(double left, double top);
+  /// Shifts a window that stands by itself until all of it lies on the screen; what is larger than the screen keeps
+  /// its left top corner there.
+  void keepOnScreen();
 
   double clientWidth() const { return Width; }
   /// Twips per unit of the scale that the form's controls are placed in: 1, or 15 for pixels.

@@ -4,6 +4,7 @@
 
 #include "ui/desk.h"
 #include "ui/form.h"
+#include "ui/textExtent.h"
 #include "ui/utf8.h"
 
 namespace zelvs::gesture {
@@ -40,6 +41,21 @@ std::string turnTo(Form& form, Control* control) {
   return {};
 }
 
+/// Where a click in the middle of a field puts the caret.
+int caretInTheMiddle(const TextBox& text) {
+  constexpr double kMargin = 5 * kTwipsPerPixel;
+  const double middle = text.area().width / 2 - kMargin;
+  double left = 0;
+  int caret = 0;
+  for (const char32_t character : charactersOf(text.Text.get())) {
+    const double width = textWidth(textOf({&character, 1}), text.FontSize);
+    if (left + width / 2 > middle) break;
+    left += width;
+    ++caret;
+  }
+  return caret;
+}
+
 void clicked(Form& form, Control* control) {
   if (control == nullptr) {
     form.click();
@@ -53,7 +69,13 @@ void clicked(Form& form, Control* control) {
     }
     case ControlKind::OptionButton:
       static_cast<OptionButton&>(*control).Value = true;
+      control->markChanged();  // a view that lets go of the chosen one has to take it back
       break;
+    case ControlKind::TextBox: {
+      auto& text = static_cast<TextBox&>(*control);
+      gesture::placeCaret(text, caretInTheMiddle(text), 0);
+      break;
+    }
     default:
       call(control->onClick);
   }
@@ -278,6 +300,7 @@ std::string placeCaret(TextBox& text, int start, int length) {
   const int last = static_cast<int>(charactersOf(text.Text.get()).size());
   text.SelStart = std::clamp(start, 0, last);
   text.SelLength = std::clamp(length, 0, last - text.SelStart);
+  call(text.onClick);
   return {};
 }
 

@@ -44,7 +44,7 @@ std::string doubleClick(Form& form, Control* control, bool lastRelease = true);
 
 /// The user picks row (from 0) of a list, or a tab.
 std::string pick(Control& control, int row);
-/// The user puts the caret (from 0) into a field.
+/// The user clicks into a field and so puts the caret (from 0) there; length characters behind it are selected.
 std::string placeCaret(TextBox& text, int start, int length);
 std::string focus(Control& control);
 std::string type(Control& control, char32_t character);

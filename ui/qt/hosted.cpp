@@ -11,6 +11,8 @@
 #include <QRadioButton>
 #include <QSignalBlocker>
 #include <QTabBar>
+#include <algorithm>
+#include <cstdlib>
 
 #include "ui/controls.h"
 #include "ui/desk.h"
@@ -66,13 +68,21 @@ class Field final : public Hosted<QLineEdit> {
     }
   }
 
+  void mousePressEvent(QMouseEvent* event) override {
+    QLineEdit::mousePressEvent(event);
+    pressedAt_ = cursorPositionAt(event->pos());
+  }
+
   void mouseReleaseEvent(QMouseEvent* event) override {
     QLineEdit::mouseReleaseEvent(event);
-    const int start = hasSelectedText() ? selectionStart() : cursorPosition();
-    gesture::placeCaret(static_cast<TextBox&>(control()), start, static_cast<int>(selectedText().size()));
+    // The widget's own caret may be the model's again already: the focus that the press brought has moved it.
+    const int end = cursorPositionAt(event->pos());
+    gesture::placeCaret(static_cast<TextBox&>(control()), std::min(pressedAt_, end), std::abs(end - pressedAt_));
   }
 
  private:
+  int pressedAt_ = 0;
+
   void typeAll(const QString& text) {
     for (const char32_t character : charactersOf(text.toStdString()))
       gesture::type(control(), character);
