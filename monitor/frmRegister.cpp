@@ -5,17 +5,39 @@
 #include <string>
 #include <string_view>
 
+#include "chip/frmEditRegister.h"
+#include "chip/registerWrite.h"
 #include "kernel/hexText.h"
 #include "kernel/state.h"
 #include "kernel/windowRefresh.h"
+#include "learning/frmMessage.h"
+#include "learning/messages.h"
 #include "shell/frmMDI.h"
+#include "ui/platform.h"
 
 namespace zelvs {
 
 namespace {
 
-constexpr std::array<std::string_view, 10> kRowNames = {"Reg.",  "SCR",  "SSR",  "HPR", "INT0R",
-                                                        "INT1R", "C1CR", "C2CR", "BCR", "CC"};
+struct RegisterRow {
+  std::string_view name;
+  std::string_view address;
+};
+
+/// Index: row. Row 0 is the heading, row 9 has no function.
+constexpr std::array<RegisterRow, 10> kRows = {{
+    {"Reg.", ""},
+    {"SCR", "580"},
+    {"SSR", "582"},
+    {"HPR", "584"},
+    {"INT0R", "586"},
+    {"INT1R", "588"},
+    {"C1CR", "58A"},
+    {"C2CR", "58C"},
+    {"BCR", "58E"},
+    {"CC", ""},
+}};
+constexpr int kSsrRow = 2;
 
 constexpr double kRowHeight = 270;
 constexpr double kFirstRow = 360;
@@ -71,15 +93,22 @@ FrmRegister::FrmRegister() : Form("frmRegister", kKind, Border::Fixed) {
     label.move(left, top, width, kRowHeight);
   };
   place(lblVal, "Val.", kValueHighLeft, 60, 2 * kValueWidth);
-  place(lblReg(0), kRowNames[0], kNameLeft, 60, kNameWidth);
+  place(lblReg(0), kRows[0].name, kNameLeft, 60, kNameWidth);
   place(lblBin, "15---------7-------0", kBinaryHighLeft, 60, kBinaryHighWidth + kBinaryLowWidth);
   for (int row = 1; row <= 9; ++row) {
     const double top = kFirstRow + (row - 1) * kRowHeight;
     place(lblValH(row), "00", kValueHighLeft, top, kValueWidth);
     place(lblValL(row), "00", kValueLowLeft, top, kValueWidth);
-    place(lblReg(row), kRowNames[static_cast<std::size_t>(row)], kNameLeft, top, kNameWidth);
+    place(lblReg(row), kRows[static_cast<std::size_t>(row)].name, kNameLeft, top, kNameWidth);
     place(lblBinH(row), " 0000_0000", kBinaryHighLeft, top, kBinaryHighWidth);
     place(lblBinL(row), "0000_0000", kBinaryLowLeft, top, kBinaryLowWidth);
+  }
+  for (int row = 1; row <= kRegisterRows; ++row) {
+    const auto opens = [this, row](int cell) {
+      return [this, row, cell] { openRegisterEditor(*this, lblReg(row).Caption.get(), row, cell); };
+    };
+    lblValH(row).onDblClick = lblBinH(row).onDblClick = opens(0);
+    lblValL(row).onDblClick = lblBinL(row).onDblClick = opens(1);
   }
   timRegister.onTimer = timRegister_Timer;
 }
@@ -92,6 +121,35 @@ void FrmRegister::load() {
     }
   }
   timRegister.Interval = 1000;
+}
+
+std::string_view regAddressText(std::string_view name) {
+  for (const RegisterRow& row : kRows) {
+    if (row.name == name) return row.address;
+  }
+  return {};
+}
+
+void openRegisterEditor(FrmRegister& form, std::string_view name, int row, int cell) {
+  if (row == kSsrRow) {
+    showMessage(kReadOnlyRegister);
+    return;
+  }
+  if (row == kBcrRow && scanActive()) {
+    showMessage(kRegisterProtected);
+    return;
+  }
+  FrmEditRegister& dialog = *frmEditRegister;
+  const double caption = platform().captionHeight();
+  const double cellBottom = form.lblValH(row).Top + 2 * form.lblValH(row).Height;
+  dialog.move(form.Left, frmMDI->Top + caption + frmMDI->ToolBox.Height + form.Top + caption + cellBottom);
+  dialog.editRegisterName = name;
+  dialog.editRegisterAddress = static_cast<std::int16_t>(hexValue(std::string(regAddressText(name))));
+  dialog.editRow = static_cast<std::int16_t>(row);
+  dialog.editLowByte = static_cast<std::int16_t>(cell);
+  dialog.chooseAccess();
+  if (frmMessage.visible()) frmMessage->hide();
+  dialog.show(ShowMode::Modal, frmMDI.get());
 }
 
 void refreshRegisterWindow() {
@@ -109,7 +167,6 @@ void refreshRegisterWindow() {
       registerHighShown[row] = high;
     }
     // SSR's low byte counts as the scan runs: it would never be black again.
-    constexpr int kSsrRow = 2;
     if (registerLowShown[row] != low && row != kSsrRow) {
       showChanged(frmRegister->lblValL(row), frmRegister->lblBinL(row));
       registerLowShown[row] = low;

@@ -1,5 +1,7 @@
 #pragma once
 
+#include <string_view>
+
 #include "ui/controls.h"
 #include "ui/form.h"
 #include "ui/timer.h"
@@ -27,5 +29,12 @@ class FrmRegister final : public Form {
 };
 
 inline FormRef<FrmRegister> frmRegister{"frmRegister"};
+
+/// Three hexadecimal digits of a register's even address; empty for a name that no register has.
+std::string_view regAddressText(std::string_view name);
+
+/// A value cell was double clicked: opens the register write dialog below its row, or tells why not. row from 1;
+/// cell 0: the high byte, 1: the low byte.
+void openRegisterEditor(FrmRegister& form, std::string_view name, int row, int cell);
 
 }  // namespace zelvs

@@ -7,6 +7,7 @@
 #include <string>
 #include <string_view>
 
+#include "chip/frmMemoryRead.h"
 #include "kernel/hexText.h"
 #include "kernel/outputStage.h"
 #include "kernel/state.h"
@@ -86,6 +87,8 @@ void takeCPUType() {
   cpuType = static_cast<std::int16_t>(frmHard->cmbCPUType.ListIndex);
   frmHard->cmbCPUType.Visible = false;
   setPointer(frmHard->picCPU, kDoubleClickPointer);
+  // It reads byte by byte, as a 16-bit bus never does.
+  if (wideBus() && frmMemoryRead.visible()) frmMemoryRead->hide();
 }
 
 void takeIOS() {

@@ -1,0 +1,59 @@
+#include "chip/frmEditMemory.h"
+
+#include "chip/accessRules.h"
+#include "chip/hexField.h"
+#include "kernel/cellAddress.h"
+#include "kernel/hexText.h"
+#include "kernel/state.h"
+#include "kernel/windowRefresh.h"
+#include "learning/messages.h"
+
+namespace zelvs {
+
+FrmEditMemory::FrmEditMemory() : WriteDialog("frmEditMemory", kKind, EnterKey::Ignored) {
+  Caption = "Memory Write";
+  Label1.Caption = "Address";
+  Label1.FontSize = 10;
+  Label1.move(lblAdr.Left, lblAdr.Top + 30, 900, 255);
+  lblAdr.Left = Label1.Left + Label1.Width;
+  lblAdr.Width = 900;
+  addMember("editCellIndex", &editCellIndex);
+  addMember("editFirstRowCaption", &editFirstRowCaption);
+}
+
+int FrmEditMemory::address() const {
+  const int clicked = addressOfCell(editFirstRowCaption, editCellIndex);
+  return wordAccess() ? clicked & ~1 : clicked;
+}
+
+void FrmEditMemory::refresh() {
+  const int at = address();
+  lblAdr.Caption = hexText(static_cast<unsigned>(at), 3);
+  lblBitInd.Caption = wordAccess() ? "bit 15----0" : "bit 7--0";
+  showValue(chipMemory[at | 1], chipMemory[wordAccess() ? at : indexOfAddress(at)]);
+  mark(kRed, wordAccess() ? kRed : kBlack);
+}
+
+void FrmEditMemory::write() {
+  const auto low = static_cast<std::uint8_t>(enteredLow());
+  const std::string_view message =
+      wordAccess() ? writeWord(address(), static_cast<std::uint8_t>(enteredHigh()), low) : writeByte(address(), low);
+  unmark();
+  refreshMemoryWindows();
+  refreshRegisterWindow();
+  hide();
+  if (!message.empty()) showMessageBeside(*this, message);
+}
+
+void FrmEditMemory::unmark() {
+  mark(kBlack, kBlack);
+  cells = nullptr;
+}
+
+void FrmEditMemory::mark(Colour clicked, Colour other) {
+  if (cells == nullptr) return;
+  (*cells)(editCellIndex).ForeColor = clicked;
+  (*cells)(editCellIndex ^ 1).ForeColor = other;
+}
+
+}  // namespace zelvs

@@ -1,0 +1,134 @@
+#include "chip/registerWrite.h"
+
+#include <array>
+#include <string>
+
+#include "kernel/hexText.h"
+#include "kernel/simulation.h"
+#include "kernel/state.h"
+
+namespace zelvs {
+
+namespace {
+
+constexpr std::string_view kBadValue = "入力された値が不適切であるため、書き込まれません。";
+constexpr std::string_view kScrWordMismatch =
+    "ＢＣＲレジスタのフル/ハーフ設定がハードウェア設定と一致していません。\r\n\r\n"
+    "ハードウェアの設定を変更するか、ＢＣＲの値を変更してください。";
+constexpr std::string_view kScrLowMismatch =
+    "通信設定がハードウェア設定と一致していません。\r\n\r\n"
+    "ハードウェアの設定を変更するか、レジスタの値を変更するまで停止します。";
+constexpr std::string_view kBcrMismatch =
+    "ＢＣＲレジスタのフル/ハーフ設定がハードウェア設定と一致していません。\r\n\r\n"
+    "ハードウェアの設定を変更するか、ＢＣＲの値を変更するまで開始しません。";
+
+// What a write can reach in a register; the rest keeps what it held.
+constexpr std::uint8_t kStationBits = 0x3F;
+constexpr std::uint8_t kHprBits = 0x10;
+constexpr std::uint8_t kInt0EnableBits = 0xFF;
+constexpr std::uint8_t kInt1EnableBits = 0xF8;
+constexpr std::uint8_t kBcrLowBits = kBcrFullDuplex | kBcrClockMask;
+constexpr std::uint8_t kBcrHighBits = 0x07;
+constexpr std::uint8_t kClearCount = 0x01;
+
+bool fullDuplex() {
+  return (chipMemory[kBcrLow] & kBcrFullDuplex) != 0;
+}
+
+bool jumpersDisagree() {
+  return (chipMemory[kBcrLow] & kBcrFullDuplex) != boardFullHalf;
+}
+
+/// A byte that isn't written asks for nothing, as 0 does: so one rule serves words and bytes.
+bool scanRefused(int high, int low) {
+  const bool continuous = continuousScanActive != kFalse;
+  const bool oneShot = oneShotScanActive != kFalse;
+  const bool asksOneShot = high != 0;
+  const bool asksContinuous = low != 0;
+  // In full duplex a scan cannot end at its first station.
+  const bool tooShort = fullDuplex() && ((high & kStationBits) == 1 || (low & kStationBits) == 1);
+  return (asksOneShot && (asksContinuous || continuous || oneShot)) || (asksContinuous && oneShot) || tooShort;
+}
+
+WriteReport writeScr(const RegisterValue& value) {
+  if (scanRefused(value.high.value_or(0), value.low.value_or(0))) return {kBadValue, {}};
+  if (jumpersDisagree()) {
+    return {{}, !value.low ? kBcrMismatch : !value.high ? kScrLowMismatch : kScrWordMismatch};
+  }
+  if (value.low) chipMemory[kScrLow] = *value.low & kStationBits;
+  if (value.high) chipMemory[kScrHigh] = *value.high & kStationBits;
+  return {};
+}
+
+WriteReport writeSsr(const RegisterValue& /*value*/) {
+  return {kReadOnlyRegister, {}};
+}
+
+void setHpr(int address, std::uint8_t value) {
+  chipMemory[address] = static_cast<std::uint8_t>((value & kHprBits) | (chipMemory[address] & 1));
+}
+
+WriteReport writeHpr(const RegisterValue& value) {
+  if (value.high) setHpr(kHprHigh, *value.high);
+  if (value.low) setHpr(kHprLow, *value.low);
+  return {};
+}
+
+/// The high byte enables, a 1 in the low byte clears its status bit.
+WriteReport writeInterrupt(int status, std::uint8_t enableBits, const RegisterValue& value) {
+  if (value.high) chipMemory[status + 1] = *value.high & enableBits;
+  if (value.low) {
+    chipMemory[status] &= static_cast<std::uint8_t>(~*value.low);
+    refreshIntLine();
+  }
+  return {};
+}
+
+WriteReport writeInt0r(const RegisterValue& value) {
+  return writeInterrupt(kInt0Status, kInt0EnableBits, value);
+}
+
+WriteReport writeInt1r(const RegisterValue& value) {
+  return writeInterrupt(kInt1Status, kInt1EnableBits, value);
+}
+
+WriteReport writeCount(int address, const RegisterValue& value) {
+  if (value.low && (*value.low & kClearCount) != 0) chipMemory[address] = 0;
+  return {};
+}
+
+WriteReport writeC1cr(const RegisterValue& value) {
+  return writeCount(kC1crLow, value);
+}
+
+WriteReport writeC2cr(const RegisterValue& value) {
+  return writeCount(kC2crLow, value);
+}
+
+WriteReport writeBcr(const RegisterValue& value) {
+  if (scanActive()) return {kRegisterProtected, {}};
+  if (value.high) chipMemory[kBcrHigh] = *value.high & kBcrHighBits;
+  if (!value.low) return {};
+  chipMemory[kBcrLow] = *value.low & kBcrLowBits;
+  // This warning comes after the fact: the value stands.
+  return {{}, jumpersDisagree() ? kBcrMismatch : std::string_view()};
+}
+
+/// Index: half the distance from the first register.
+constexpr std::array kWriters = {writeScr, writeSsr, writeHpr, writeInt0r, writeInt1r, writeC1cr, writeC2cr, writeBcr};
+static_assert(kWriters.size() == kRegisterRows);
+
+}  // namespace
+
+bool scanActive() {
+  return continuousScanActive != kFalse || oneShotScanActive != kFalse;
+}
+
+WriteReport writeRegister(int address, const RegisterValue& value) {
+  if (address < kScrLow || address > kBcrLow || address % 2 != 0) {
+    runTimeError("there is no register at the address " + hexText(static_cast<unsigned>(address), 3) + "H");
+  }
+  return kWriters[static_cast<std::size_t>(address - kScrLow) / 2](value);
+}
+
+}  // namespace zelvs
