@@ -6,6 +6,7 @@
 #include "kernel/beep.h"
 #include "kernel/hexText.h"
 #include "kernel/state.h"
+#include "learning/frmMessage.h"
 #include "learning/messages.h"
 #include "panel/frmHard.h"
 #include "shell/frmMDI.h"
@@ -77,7 +78,12 @@ void FrmMemoryRead::initReadMemory() {
   lblGuide.Caption = "";
   lblAdr.Caption = "???H";
   lblData.Caption = "??";
+  askForAddress();
+}
+
+void FrmMemoryRead::askForAddress() {
   txtAddress.Text = "???";
+  txtAddress.SelStart = 0;
 }
 
 void FrmMemoryRead::read() {
@@ -91,7 +97,7 @@ void FrmMemoryRead::read() {
   lblGuide.Caption = byte.guide;
   lblData.Caption = hexText(byte.value, 2);
   lblAdr.Caption = address + "H";
-  txtAddress.Text = "???";
+  askForAddress();
 }
 
 void FrmMemoryRead::finish() {
@@ -112,7 +118,9 @@ void openMemoryRead() {
   }
   frmMemoryRead->move(frmHard->Left + 1800, frmHard->Top + 2500);
   frmMemoryRead->keepOnScreen();
+  if (frmMessage.visible()) frmMessage->hide();
   frmMemoryRead->show(ShowMode::Modeless, frmMDI.get());
+  desk().focus(&frmMemoryRead->txtAddress);
 }
 
 }  // namespace zelvs

@@ -29,6 +29,7 @@ class FrmMemoryRead final : public Form {
   bool queryUnload(bool byUser) override;
 
  private:
+  void askForAddress();
   void read();
   void finish();
 

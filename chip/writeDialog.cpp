@@ -72,6 +72,7 @@ void WriteDialog::chooseAccess() {
 void WriteDialog::showValue(unsigned high, unsigned low) {
   txtWriteData.MaxLength = wordAccess() ? kWordDigits : kByteDigits;
   txtWriteData.Text = (wordAccess() ? hexText(high, kByteDigits) : std::string()) + hexText(low, kByteDigits);
+  txtWriteData.SelStart = 0;
 }
 
 unsigned WriteDialog::enteredHigh() const {

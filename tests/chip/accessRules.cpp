@@ -276,9 +276,9 @@ TEST_F(AccessTest, ACellsAddressFollowsTheByteOrder) {
     const char* caption;
     int cell, address;
   };
-  const Row table[] = {{0, "00-", 0, 0x00F},   {0, "00-", 15, 0x000},  {0, "00-", 16, 0x01F},  {1, "00-", 383, 0x170},
-                       {2, "00-", 0, 0x000},   {3, "00-", 15, 0x00F},  {3, "18-", 0, 0x180},   {0, "18-", 15, 0x180},
-                       {0, "18-", 895, 0x4F0}, {0, "50-", 127, 0x570}, {2, "50-", 127, 0x57F}, {0, "", 15, 0}};
+  const Row table[] = {{0, "00x", 0, 0x00F},   {0, "00x", 15, 0x000},  {0, "00x", 16, 0x01F},  {1, "00x", 383, 0x170},
+                       {2, "00x", 0, 0x000},   {3, "00x", 15, 0x00F},  {3, "18x", 0, 0x180},   {0, "18x", 15, 0x180},
+                       {0, "18x", 895, 0x4F0}, {0, "50x", 127, 0x570}, {2, "50x", 127, 0x57F}, {0, "", 15, 0}};
   for (const Row& row : table) {
     cpuType = static_cast<std::int16_t>(row.cpu);
     EXPECT_EQ(addressOfCell(row.caption, row.cell), row.address) << row.caption << " " << row.cell;

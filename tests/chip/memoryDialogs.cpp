@@ -27,7 +27,7 @@ class MemoryDialogTest : public DialogTest {
     FrmEditMemory& dialog = *frmEditMemory;
     dialog.move(3000, 3000);
     dialog.editCellIndex = static_cast<std::int16_t>(cell);
-    dialog.editFirstRowCaption = "00-";
+    dialog.editFirstRowCaption = "00x";
     dialog.cells = &frmCells->lblData;
     dialog.chooseAccess();
     dialog.show(ShowMode::Modal, frmMDI.get());

@@ -12,6 +12,7 @@
 #include <QListWidget>
 #include <QMouseEvent>
 #include <QPushButton>
+#include <QRadioButton>
 #include <QTabBar>
 #include <QToolTip>
 #include <memory>
@@ -174,6 +175,32 @@ TEST_F(GalleryTest, TheSelectionOfTheModelIsShown) {
   settle();
   EXPECT_EQ(widgetOf<QLineEdit>(frmGallery->txtA).selectionStart(), 2);
   EXPECT_EQ(widgetOf<QLineEdit>(frmGallery->txtA).selectedText().size(), 1);
+}
+
+TEST_F(GalleryTest, AClickIntoTheFieldPutsTheCaretAndIsTold) {
+  std::vector<int> carets;
+  frmGallery->txtA.onClick = [&] {
+    carets.push_back(frmGallery->txtA.SelStart);
+    frmGallery->txtA.SelStart = 3;
+    frmGallery->txtA.SelLength = 1;
+  };
+  // The first click brings the focus as well.
+  for (int i = 0; i < 2; ++i) {
+    hands().click(*frmGallery, &frmGallery->txtA);
+    settle();
+    EXPECT_EQ(widgetOf<QLineEdit>(frmGallery->txtA).selectionStart(), 3);
+    EXPECT_EQ(widgetOf<QLineEdit>(frmGallery->txtA).selectedText().size(), 1);
+  }
+  EXPECT_EQ(carets, (std::vector<int>{4, 4})) << "the middle of the field lies behind its text";
+}
+
+TEST_F(GalleryTest, TheChosenOptionStaysChosenWhenItIsClickedAgain) {
+  for (int i = 0; i < 3; ++i) {
+    hands().click(*frmGallery, &frmGallery->opnA(0));
+    settle();
+    EXPECT_TRUE(frmGallery->opnA(0).Value.get());
+    EXPECT_TRUE(widgetOf<QRadioButton>(frmGallery->opnA(0)).isChecked());
+  }
 }
 
 TEST_F(GalleryTest, FocusGoesBetweenWidgetsAsTheModelSays) {

@@ -173,6 +173,31 @@ TEST_F(TextBoxTest, AssignmentByCodeChangesOnlyWithAnotherText) {
   EXPECT_EQ(look(), "x|") << "caret and selection stay inside the text";
 }
 
+TEST_F(TextBoxTest, AClickPutsTheCaretWhereItLiesAndIsTold) {
+  int clicks = 0;
+  field().onClick = [&clicks] { ++clicks; };
+  struct Row {
+    const char* text;
+    double width;
+    const char* after;
+  };
+  // A character is 90 twips wide, an ideograph 180.
+  const Row table[] = {{"abcdef", 510, "ab|cdef"},
+                       {"abc", 3000, "abc|"},
+                       {"", 510, "|"},
+                       {"漢字全", 510, "漢|字全"},
+                       {"abc", 90, "|abc"}};
+  for (const Row& row : table) {
+    field().move(0, 0, row.width, 300);
+    put(row.text, 0, 1);
+    clicks = 0;
+    EXPECT_EQ(gesture::click(*frmEdit, &field()), "");
+    EXPECT_EQ(look(), row.after);
+    EXPECT_EQ(clicks, 1);
+  }
+  EXPECT_EQ(desk().focused(), &field());
+}
+
 TEST_F(TextBoxTest, TheCaretIsPutInsideTheTextOnly) {
   put("abc", -5, 100);
   EXPECT_EQ(look(), "[abc]");
