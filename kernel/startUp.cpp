@@ -6,7 +6,11 @@
 #include "kernel/beep.h"
 #include "kernel/resets.h"
 #include "kernel/state.h"
+#include "monitor/frmDumpC17.h"
+#include "monitor/frmDumpCDIO.h"
+#include "monitor/frmDumpDRC.h"
 #include "monitor/frmRegister.h"
+#include "monitor/mduMemoryWindow.h"
 #include "panel/frmHard.h"
 #include "shell/frmMDI.h"
 #include "shell/frmVersion.h"
@@ -59,10 +63,10 @@ void loadWindows() {
   showProcessMessage("レジスタウィンドウロード中です。");
   frmRegister.load();
   if (openWindow[1] != 0) showAtOnce(*frmRegister, frmMDI.get());
-  // One message for each of the three memory windows.
-  showProcessMessage("メモリウィンドウロード中です。");
-  showProcessMessage("メモリウィンドウロード中です。");
-  showProcessMessage("メモリウィンドウロード中です。");
+  for (FormPlace* window : std::initializer_list<FormPlace*>{&frmDumpCDIO, &frmDumpC17, &frmDumpDRC}) {
+    showProcessMessage("メモリウィンドウロード中です。");
+    window->load();
+  }
   showProcessMessage("メモリ処理中です。");
   if (memoryClear != 0) {
     clearChipMemory();
@@ -71,11 +75,15 @@ void loadWindows() {
   }
   resetSimulationState();
   placeWindows();
+  openDumpWindowsOfSettings();
   showProcessMessage("レジスタヒントウィンドウロード中です。");
 }
 
 void placeWindows() {
   frmRegister->move(6800, 1100);
+  frmDumpCDIO->move(12000, 0);
+  frmDumpC17->move(10500, 1300);
+  frmDumpDRC->move(7600, 10000);
 }
 
 void showProcessMessage(std::string_view text) {

@@ -12,6 +12,7 @@
 #include "kernel/outputStage.h"
 #include "kernel/state.h"
 #include "learning/messages.h"
+#include "monitor/mduMemoryWindow.h"
 #include "panel/frmHard.h"
 #include "panel/panelSetup.h"
 #include "panel/pinModes.h"
@@ -89,6 +90,7 @@ void takeCPUType() {
   setPointer(frmHard->picCPU, kDoubleClickPointer);
   // It reads byte by byte, as a 16-bit bus never does.
   if (wideBus() && frmMemoryRead.visible()) frmMemoryRead->hide();
+  resetDumpLayout(kAllDumpWindows);
 }
 
 void takeIOS() {

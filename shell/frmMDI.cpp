@@ -4,6 +4,7 @@
 #include "kernel/simulation.h"
 #include "kernel/state.h"
 #include "kernel/tick.h"
+#include "monitor/frmDumpSel.h"
 #include "monitor/frmRegister.h"
 #include "shell/frmVersion.h"
 #include "ui/desk.h"
@@ -36,15 +37,30 @@ void moveOverRunMode(int index) {
   if (runMode == kOneTime) timTick_Timer();
 }
 
+void lblMemoryWindow_Click() {
+  constexpr double kToTheLeft = 900;
+  frmDumpSel->move(frmMDI->lblMemoryWindow.Left * kTwipsPerPixel - kToTheLeft, 0);
+  frmDumpSel->show();
+  frmDumpSel->bringToFront();
+}
+
 void lblRegisterWindow_Click() {
+  hideDumpSel();
   frmRegister->show(ShowMode::Modeless, frmMDI.get());
   frmRegister->bringToFront();
 }
 
 void lblVersion_Click() {
+  hideDumpSel();
   frmVersion->show();
   frmVersion->repaint();
   yieldToEvents();
+}
+
+void lblNagigator_DblClick() {
+  // While the splash or the about window is there nothing happens at all.
+  if (frmVersion.visible()) return;
+  hideDumpSel();
 }
 
 }  // namespace
@@ -93,7 +109,11 @@ FrmMDI::FrmMDI() : Form("frmMDI", kKind, Border::Sizable) {
 
   lblRunMode.on(&Control::onClick, selectRunMode);
   lblRunMode.on(&Control::onMouseMove, moveOverRunMode);
+  lblMemoryWindow.onClick = lblMemoryWindow_Click;
   lblRegisterWindow.onClick = lblRegisterWindow_Click;
+  lblRegisterHint.onClick = hideDumpSel;
+  lblDefault.onClick = hideDumpSel;
+  lblNagigator.onDblClick = lblNagigator_DblClick;
   lblVersion.onClick = lblVersion_Click;
   timTick.onTimer = timTick_Timer;
 }
@@ -109,6 +129,7 @@ void FrmMDI::resized() {
 void FrmMDI::lblRunMode_Click(int index) {
   for (Label& label : lblRunMode)
     label.BackColor = label.index() == index ? kModeSelected : kModeFree;
+  hideDumpSel();
   const RunModeRow& mode = kRunModes[static_cast<std::size_t>(index)];
   runMode = static_cast<std::int16_t>(index);
   timTick.Interval = mode.interval;

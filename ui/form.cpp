@@ -71,12 +71,12 @@ double Form::clientHeight() const {
 
 double Form::insideLeft() const {
   const Form* frame = kind_ == FormKind::Child ? desk().frame() : nullptr;
-  return Left + (frame != nullptr ? frame->insideLeft() : 0);
+  return Left + (frame != nullptr ? frame->insideLeft() - (floating_ ? kClientEdge : 0) : 0);
 }
 
 double Form::insideTop() const {
   const Form* frame = kind_ == FormKind::Child ? desk().frame() : nullptr;
-  const double above = frame != nullptr ? frame->insideTop() + frame->barHeight() : 0;
+  const double above = frame != nullptr ? frame->insideTop() + (floating_ ? -kClientEdge : frame->barHeight()) : 0;
   return above + Top + (Height - clientHeight());
 }
 
@@ -108,11 +108,14 @@ bool canBeHit(const Control& control) {
          control.kind() != ControlKind::Sound;
 }
 
-Control* frontAt(const std::vector<Control*>& siblings, double x, double y) {
+/// x and y count from the left top of what holds the siblings, unit is its scale: a memory window has thousands of
+/// them, so that none asks its holders where they lie.
+Control* frontAt(const std::vector<Control*>& siblings, double unit, double x, double y) {
   for (auto at = siblings.rbegin(); at != siblings.rend(); ++at) {
     Control& control = **at;
-    if (!canBeHit(control) || !control.area().contains(x, y)) continue;
-    Control* inside = frontAt(control.children(), x, y);
+    const Area area{control.Left * unit, control.Top * unit, control.Width * unit, control.Height * unit};
+    if (!area.contains(x, y) || !canBeHit(control)) continue;
+    Control* inside = frontAt(control.children(), control.unit(), x - area.left, y - area.top);
     return inside != nullptr ? inside : &control;
   }
   return nullptr;
@@ -121,7 +124,7 @@ Control* frontAt(const std::vector<Control*>& siblings, double x, double y) {
 }  // namespace
 
 Control* Form::controlAt(double x, double y) const {
-  return frontAt(topControls_, x, y);
+  return frontAt(topControls_, unit_, x, y);
 }
 
 void Form::markChanged(Control& control) {

@@ -13,6 +13,9 @@ namespace zelvs {
 /// Frame: the one window that holds the children. Child: inside the frame's client area. Window: stands by itself.
 enum class FormKind { Frame, Child, Window };
 enum class Border { None, Fixed, Sizable };
+/// What stands between the frame and its client area, in twips: a child counts from behind it, a floating one from
+/// before.
+inline constexpr double kClientEdge = 30;
 enum class ShowMode { Modeless, Modal };
 
 /// A window. It is made and loaded at the first touch through its FormRef, shown and hidden any number of times, and

@@ -47,15 +47,16 @@ void Canvas::fitForm() {
   }
 }
 
-void Canvas::markDirty(const Control& control) {
+QRect Canvas::placeOf(const Control& control) const {
   // A line may be thicker than nothing, and letters may stand out of their place a little.
   constexpr int kMargin = 2;
-  QRect place;
-  if (control.kind() == ControlKind::Line) {
-    place = rect();
-  } else if (control.shown()) {
-    place = pixelsOf(control.area()).toAlignedRect().adjusted(-kMargin, -kMargin, kMargin, kMargin);
-  }
+  if (control.kind() == ControlKind::Line) return rect();
+  if (!control.shown()) return {};
+  return pixelsOf(control.area()).toAlignedRect().adjusted(-kMargin, -kMargin, kMargin, kMargin);
+}
+
+void Canvas::markDirty(const Control& control) {
+  const QRect place = placeOf(control);
   QRect& before = painted_[&control];
   if (!before.isNull()) update(before);
   if (!place.isNull() && place != before) update(place);
@@ -72,7 +73,7 @@ void Canvas::showChanges(const std::vector<Control*>& changed) {
     } else if (!all) {
       markDirty(*control);
     } else {
-      painted_.remove(control);
+      painted_[control] = placeOf(*control);
     }
     // What a container holds appears, disappears and moves with it.
     if (!control->children().empty()) {

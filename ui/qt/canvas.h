@@ -38,6 +38,8 @@ class Canvas final : public QWidget {
 
  private:
   Control* controlAt(QPointF place) const;
+  /// What the control takes of the canvas, null when it is hidden.
+  QRect placeOf(const Control& control) const;
   void markDirty(const Control& control);
   void showPointer(const Control* control);
 

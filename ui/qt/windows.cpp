@@ -15,8 +15,22 @@ namespace zelvs {
 
 namespace {
 
+/// A floating child counts from an edge that no window of ours has: it must not jump when it leaves the others.
+double edgeOf(const Form& form) {
+  return form.floating() ? kClientEdge : 0;
+}
+
 QPoint pixelPlace(const Form& form) {
-  return {qRound(form.Left / kTwipsPerPixel), qRound(form.Top / kTwipsPerPixel)};
+  return {qRound((form.Left - edgeOf(form)) / kTwipsPerPixel), qRound((form.Top - edgeOf(form)) / kTwipsPerPixel)};
+}
+
+/// The title bar is the child's own work, so that it looks alike with and without an area around it.
+Qt::WindowFlags childFlags(const Form& form) {
+  Qt::WindowFlags flags = Qt::SubWindow;
+  if (form.border() == Border::None) return flags | Qt::FramelessWindowHint;
+  flags |= Qt::CustomizeWindowHint | Qt::WindowTitleHint;
+  if (form.hasCloseBox()) flags |= Qt::WindowSystemMenuHint | Qt::WindowCloseButtonHint;
+  return flags;
 }
 
 /// A window made of nothing but its canvas.
@@ -87,13 +101,7 @@ QWidget* Windows::makeFrame(Form& /*form*/, Canvas* canvas) {
 }
 
 QWidget* Windows::makeChild(Form& form, Canvas* canvas) {
-  Qt::WindowFlags flags = Qt::SubWindow;
-  if (form.border() == Border::None) {
-    flags |= Qt::FramelessWindowHint;
-  } else {
-    flags |= Qt::CustomizeWindowHint | Qt::WindowTitleHint;
-    if (form.hasCloseBox()) flags |= Qt::WindowSystemMenuHint | Qt::WindowCloseButtonHint;
-  }
+  const Qt::WindowFlags flags = childFlags(form);
   auto* window = new QMdiSubWindow(nullptr, flags);
   window->setWidget(canvas);
   window->setAttribute(Qt::WA_DeleteOnClose, false);
@@ -114,12 +122,27 @@ QWidget* Windows::makeWindow(Form& form, Canvas* canvas) {
   return new TopWindow(canvas, frame_, flags);
 }
 
+void Windows::takeHome(const Form& form, QMdiSubWindow* child) {
+  const bool inArea = child->mdiArea() != nullptr;
+  if (inArea != form.floating()) return;
+  if (inArea) {
+    // Beside the area, in the frame itself: what lies there is in front of all that the area holds.
+    area_->removeSubWindow(child);
+    child->setParent(frame_->centralWidget(), childFlags(form));
+  } else {
+    area_->addSubWindow(child, childFlags(form));
+  }
+  child->setVisible(form.visible());
+}
+
 void Windows::place(const Form& form, const Shown& shown) {
   const QScopedValueRollback<bool> following(following_, true);
   shown.canvas->fitForm();
+  auto* child = qobject_cast<QMdiSubWindow*>(shown.window);
+  if (child != nullptr) takeHome(form, child);
   if (form.kind() == FormKind::Frame) return;  // the user's own: the program never moves it
   if (shown.window->pos() != pixelPlace(form)) shown.window->move(pixelPlace(form));
-  if (auto* child = qobject_cast<QMdiSubWindow*>(shown.window)) child->adjustSize();
+  if (child != nullptr) child->adjustSize();
 }
 
 void Windows::formShown(Form& form) {
@@ -152,7 +175,8 @@ void Windows::formUnloaded(Form& form) {
   if (shown.window == nullptr) return;
   shown.canvas->forgetForm();
   shown.window->hide();
-  if (auto* child = qobject_cast<QMdiSubWindow*>(shown.window)) area_->removeSubWindow(child);
+  auto* child = qobject_cast<QMdiSubWindow*>(shown.window);
+  if (child != nullptr && child->mdiArea() != nullptr) area_->removeSubWindow(child);
   if (shown.window == frame_) {
     frame_ = nullptr;
     area_ = nullptr;
@@ -218,7 +242,7 @@ void Windows::stack() {
   const Form* active = desk().active();
   if (active == nullptr || windowOf(*active) == nullptr) return;
   if (auto* child = qobject_cast<QMdiSubWindow*>(windowOf(*active))) {
-    area_->setActiveSubWindow(child);
+    if (child->mdiArea() != nullptr) area_->setActiveSubWindow(child);
   } else if (active->kind() == FormKind::Window) {
     windowOf(*active)->activateWindow();
   }
@@ -234,8 +258,8 @@ Form* Windows::formOf(const QObject* window) const {
 void Windows::takePlace(Form& form, const QWidget& window) {
   const QPoint place = window.pos();
   if (place == pixelPlace(form)) return;
-  form.Left = place.x() * kTwipsPerPixel;
-  form.Top = place.y() * kTwipsPerPixel;
+  form.Left = place.x() * kTwipsPerPixel + edgeOf(form);
+  form.Top = place.y() * kTwipsPerPixel + edgeOf(form);
 }
 
 bool Windows::eventFilter(QObject* watched, QEvent* event) {
@@ -255,6 +279,10 @@ bool Windows::eventFilter(QObject* watched, QEvent* event) {
         form->Width = frame_->width() * kTwipsPerPixel;
         form->Height = frame_->height() * kTwipsPerPixel + (form->Height - form->clientHeight());
       }
+      return false;
+    case QEvent::MouseButtonPress:
+      // Outside its area nobody tells of a child that is taken by its title bar.
+      if (!following_ && form->floating()) gesture::activate(*form);
       return false;
     case QEvent::WindowActivate:
       if (!following_ && form->kind() == FormKind::Window && form->visible()) gesture::activate(*form);

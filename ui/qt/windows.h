@@ -49,6 +49,7 @@ class Windows final : public QObject {
   QWidget* makeChild(Form& form, Canvas* canvas);
   QWidget* makeWindow(Form& form, Canvas* canvas);
   void place(const Form& form, const Shown& shown);
+  void takeHome(const Form& form, QMdiSubWindow* child);
   void stack();
   void takePlace(Form& form, const QWidget& window);
   Form* formOf(const QObject* window) const;

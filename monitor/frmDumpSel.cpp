@@ -1,0 +1,64 @@
+#include "monitor/frmDumpSel.h"
+
+#include <array>
+#include <string_view>
+
+#include "kernel/state.h"
+#include "learning/messages.h"
+#include "monitor/frmDumpC17.h"
+#include "monitor/frmDumpCDIO.h"
+#include "monitor/frmDumpDRC.h"
+#include "monitor/frmRegister.h"
+#include "monitor/mduMemoryWindow.h"
+
+namespace zelvs {
+
+namespace {
+
+void openMemoryRead() {
+  const bool wordBus = (cpuType & 1) == 0;
+  if (wordBus) showMessage("８ビットバス選択時のみ機能します");
+  // On an 8-bit bus frmMemoryRead opens, which has still to be joined.
+}
+
+void closeAll() {
+  // frmMemoryRead has still to be joined.
+  for (FormPlace* place : std::initializer_list<FormPlace*>{&frmDumpCDIO, &frmDumpC17, &frmDumpDRC, &frmRegister}) {
+    if (place->visible()) place->form()->hide();
+  }
+}
+
+struct Entry {
+  std::string_view caption;
+  void (*action)();
+};
+constexpr std::array<Entry, 5> kEntries = {{
+    {"コントロール+DI+DO", [] { openDumpWindow(0); }},
+    {"C1～C7", [] { openDumpWindow(1); }},
+    {"DRC", [] { openDumpWindow(2); }},
+    {"Memory Read", openMemoryRead},
+    {"Window All Close", closeAll},
+}};
+
+void cmdAREA_Click(int index) {
+  frmDumpSel->hide();
+  kEntries[static_cast<std::size_t>(index)].action();
+}
+
+}  // namespace
+
+FrmDumpSel::FrmDumpSel() : Form("frmDumpSel", kKind, Border::None) {
+  constexpr double kButtonWidth = 1980;
+  constexpr double kButtonHeight = 330;
+  constexpr double kEdge = 30;
+  Width = kButtonWidth + 2 * kEdge;
+  Height = static_cast<double>(kEntries.size()) * kButtonHeight + 2 * kEdge;
+  BackColor = 0xC0FFFF;
+  for (CommandButton& button : cmdAREA) {
+    button.Caption = kEntries[static_cast<std::size_t>(button.index())].caption;
+    button.move(kEdge, kEdge + button.index() * kButtonHeight, kButtonWidth, kButtonHeight);
+  }
+  cmdAREA.on(&Control::onClick, cmdAREA_Click);
+}
+
+}  // namespace zelvs
