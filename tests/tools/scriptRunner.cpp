@@ -142,8 +142,10 @@ TEST_F(ScriptRunnerTest, LookingAtValues) {
 }
 
 TEST_F(ScriptRunnerTest, FormsAreListedFrontToBack) {
-  EXPECT_EQ(run("activate frmHard\nforms"), "frmRegister visible\nfrmHard visible active\nfrmMDI visible\n");
-  EXPECT_EQ(run("close frmRegister\nforms"), "frmHard visible active\nfrmMDI visible\n");
+  const std::string children =
+      "frmHard visible active\nfrmDumpCDIO visible\nfrmDumpC17 hidden\nfrmDumpDRC hidden\nfrmMDI visible\n";
+  EXPECT_EQ(run("activate frmHard\nforms"), "frmRegister visible\n" + children);
+  EXPECT_EQ(run("close frmRegister\nforms"), children);
 }
 
 TEST_F(ScriptRunnerTest, ControlsAreListedWithTheirKind) {
@@ -290,7 +292,8 @@ TEST_F(ScriptRunnerTest, WhileAModalWindowIsOpenTheScriptGoesOnInside) {
                 "expect frmDialog.dialogResult 1\n"
                 "expect frmDialog.Visible False\n"),
             "ok\n"
-            "frmDialog visible modal active\nfrmRegister visible\nfrmHard visible\nfrmMDI visible\n"
+            "frmDialog visible modal active\nfrmRegister visible\nfrmHard visible\nfrmDumpCDIO visible\n"
+            "frmDumpC17 hidden\nfrmDumpDRC hidden\nfrmMDI visible\n"
             "error: frmDialog is modal\n"
             "ok\nok\nok\nok\n");
   EXPECT_EQ(status, 0);

@@ -89,7 +89,7 @@ void Canvas::paintEvent(QPaintEvent* event) {
   QPainter painter(this);
   painter.fillRect(event->rect(), colourOf(form_->BackColor));
   painter.setClipRegion(event->region());
-  drawControls(painter, *form_, event->rect());
+  drawControls(painter, *form_, event->region());
 }
 
 Control* Canvas::controlAt(QPointF place) const {

@@ -4,6 +4,11 @@
 #include <QHash>
 #include <QScreen>
 #include <QStaticText>
+#include <functional>
+#include <memory>
+#include <string>
+#include <string_view>
+#include <unordered_map>
 #include <utility>
 
 #include "ui/controls.h"
@@ -47,49 +52,65 @@ double emOf(double points) {
   return points * kTwipsPerPoint / kTwipsPerPixel;
 }
 
-/// A text whose letters have been laid out, which costs far more than drawing them.
-struct LaidOutText {
-  QStaticText letters;
-  double ascent;
+/// A font with the texts whose letters have been laid out in it, which costs far more than drawing them.
+struct Letters {
+  struct Hash : std::hash<std::string_view> {
+    using is_transparent = void;
+  };
+  QFont font;
+  double ascent = 0;
+  std::unordered_map<std::string, QStaticText, Hash, std::equal_to<>> kept;
+
+  const QStaticText& laidOut(std::string_view text) {
+    constexpr std::size_t kMostKept = 4096;
+    const auto found = kept.find(text);
+    if (found != kept.end()) return found->second;
+    if (kept.size() >= kMostKept) kept.clear();
+    QStaticText fresh(QString::fromUtf8(text.data(), static_cast<qsizetype>(text.size())));
+    fresh.setTextFormat(Qt::PlainText);
+    fresh.prepare(QTransform(), font);
+    return kept.emplace(text, std::move(fresh)).first->second;
+  }
 };
 
-const LaidOutText& laidOut(const QString& text, double points, bool bold) {
-  constexpr int kMostKept = 4096;
-  static QHash<std::pair<QString, std::pair<double, bool>>, LaidOutText> kept;
-  const std::pair<QString, std::pair<double, bool>> key(text, {points, bold});
-  auto found = kept.find(key);
-  if (found == kept.end()) {
-    if (kept.size() >= kMostKept) kept.clear();
-    const QFont font = fontOf(points, bold);
-    LaidOutText fresh{QStaticText(text), QFontMetricsF(font).ascent()};
-    fresh.letters.setTextFormat(Qt::PlainText);
-    fresh.letters.prepare(QTransform(), font);
-    found = kept.insert(key, fresh);
+Letters& lettersOf(double points, bool bold) {
+  static QHash<std::pair<double, bool>, std::shared_ptr<Letters>> kept;
+  std::shared_ptr<Letters>& letters = kept[{points, bold}];
+  if (letters == nullptr) {
+    letters = std::make_shared<Letters>();
+    letters->font = fontOf(points, bold);
+    letters->ascent = QFontMetricsF(letters->font).ascent();
   }
-  return *found;
+  return *letters;
 }
 
-void drawLine(QPainter& painter, const QString& text, double left, double lineTop, double points, bool bold) {
-  if (text.isEmpty()) return;
+void drawLine(QPainter& painter, std::string_view text, double left, double lineTop, double points, bool bold) {
+  if (text.empty()) return;
   const double em = emOf(points);
   const double line = lineHeight(points) / kTwipsPerPixel;
-  const LaidOutText& shape = laidOut(text, points, bold);
-  painter.setFont(fontOf(points, bold));
-  painter.drawStaticText(QPointF(left, lineTop + (line - em) / 2 + em * kBaseline - shape.ascent), shape.letters);
+  Letters& letters = lettersOf(points, bold);
+  painter.setFont(letters.font);
+  painter.drawStaticText(QPointF(left, lineTop + (line - em) / 2 + em * kBaseline - letters.ascent),
+                         letters.laidOut(text));
 }
 
 void drawText(QPainter& painter, const Control& control, const QRectF& place, Alignment alignment, bool centred) {
   const double points = control.FontSize;
   const double line = lineHeight(points) / kTwipsPerPixel;
   painter.setPen(colourOf(control.ForeColor));
-  const QStringList lines = QString::fromStdString(control.Caption.get()).split('\n');
-  double top = place.top() + (centred ? (place.height() - line * lines.size()) / 2 : 0);
-  for (QString text : lines) {
-    if (text.endsWith('\r')) text.chop(1);
-    const double width = textWidth(text.toStdString(), points) / kTwipsPerPixel;
+  std::string_view rest = control.Caption.get();
+  double top = place.top() + (centred ? (place.height() - line * lineCount(rest)) / 2 : 0);
+  for (bool more = true; more;) {
+    const std::size_t end = rest.find('\n');
+    more = end != std::string_view::npos;
+    std::string_view text = rest.substr(0, end);
+    if (more) rest.remove_prefix(end + 1);
+    if (text.ends_with('\r')) text.remove_suffix(1);
     double left = place.left();
-    if (alignment == Alignment::Right) left = place.right() - width;
-    if (alignment == Alignment::Center) left = place.left() + (place.width() - width) / 2;
+    if (alignment != Alignment::Left) {
+      const double room = place.width() - textWidth(text, points) / kTwipsPerPixel;
+      left += alignment == Alignment::Right ? room : room / 2;
+    }
     drawLine(painter, text, left, top, points, control.FontBold);
     top += line;
   }
@@ -122,7 +143,7 @@ void draw(QPainter& painter, const PictureBox& box, const QRectF& place) {
     painter.setPen(QPen(colourOf(operation.colour), 1));
     const QPointF from(place.left() + operation.x1 * unit, place.top() + operation.y1 * unit);
     if (operation.isText) {
-      drawLine(painter, QString::fromStdString(operation.text), from.x(), from.y(), operation.fontSize, box.FontBold);
+      drawLine(painter, operation.text, from.x(), from.y(), operation.fontSize, box.FontBold);
     } else {
       painter.drawLine(from, QPointF(place.left() + operation.x2 * unit, place.top() + operation.y2 * unit));
     }
@@ -187,28 +208,45 @@ void drawOne(QPainter& painter, const Control& control, const QRectF& place) {
   }
 }
 
-void drawAll(QPainter& painter, const std::vector<Control*>& siblings, const QRectF& dirty) {
+/// A plain line of text that keeps inside its place: it needs no clipping, which costs more than the letters.
+bool keepsInside(const Control& control) {
+  if (control.kind() != ControlKind::Label || !control.children().empty()) return false;
+  const std::string& text = control.Caption.get();
+  return text.find('\n') == std::string::npos &&
+         textWidth(text, control.FontSize) <= control.Width * control.outerUnit();
+}
+
+/// origin: left top of what holds the siblings; unit: pixels per unit of its scale.
+void drawAll(QPainter& painter, const std::vector<Control*>& siblings, QPointF origin, double unit,
+             const QRegion& dirty) {
+  const QRectF bounds = dirty.boundingRect();
+  const bool manyPieces = dirty.rectCount() > 1;
   for (const Control* control : siblings) {
     if (!control->Visible) continue;
-    const QRectF place = pixelsOf(control->area());
-    const bool line = control->kind() == ControlKind::Line;
-    if (!line && !place.intersects(dirty)) continue;
-    if (line) {
+    const QRectF place(origin.x() + control->Left * unit, origin.y() + control->Top * unit, control->Width * unit,
+                       control->Height * unit);
+    if (control->kind() == ControlKind::Line) {
+      drawOne(painter, *control, place);
+      continue;
+    }
+    if (!place.intersects(bounds) || (manyPieces && !dirty.intersects(place.toAlignedRect()))) continue;
+    if (keepsInside(*control)) {
       drawOne(painter, *control, place);
       continue;
     }
     painter.save();
     painter.setClipRect(place, Qt::IntersectClip);
     drawOne(painter, *control, place);
-    drawAll(painter, control->children(), dirty.intersected(place));
+    drawAll(painter, control->children(), place.topLeft(), control->unit() / kTwipsPerPixel,
+            dirty.intersected(place.toAlignedRect()));
     painter.restore();
   }
 }
 
 }  // namespace
 
-void drawControls(QPainter& painter, const Form& form, const QRect& dirty) {
-  drawAll(painter, form.topControls(), QRectF(dirty));
+void drawControls(QPainter& painter, const Form& form, const QRegion& dirty) {
+  drawAll(painter, form.topControls(), QPointF(0, 0), form.unit() / kTwipsPerPixel, dirty);
 }
 
 }  // namespace zelvs

@@ -4,6 +4,7 @@
 #include <QFont>
 #include <QPainter>
 #include <QRect>
+#include <QRegion>
 
 #include "ui/control.h"
 
@@ -17,6 +18,6 @@ QFont fontOf(double points, bool bold);
 QRectF pixelsOf(const Area& twips);
 
 /// Paints the controls of a form that the canvas draws itself, back to front, as far as they touch the dirty area.
-void drawControls(QPainter& painter, const Form& form, const QRect& dirty);
+void drawControls(QPainter& painter, const Form& form, const QRegion& dirty);
 
 }  // namespace zelvs
