@@ -3,8 +3,7 @@
 #include <array>
 #include <string_view>
 
-#include "kernel/state.h"
-#include "learning/messages.h"
+#include "chip/frmMemoryRead.h"
 #include "monitor/frmDumpC17.h"
 #include "monitor/frmDumpCDIO.h"
 #include "monitor/frmDumpDRC.h"
@@ -15,15 +14,9 @@ namespace zelvs {
 
 namespace {
 
-void openMemoryRead() {
-  const bool wordBus = (cpuType & 1) == 0;
-  if (wordBus) showMessage("８ビットバス選択時のみ機能します");
-  // On an 8-bit bus frmMemoryRead opens, which has still to be joined.
-}
-
 void closeAll() {
-  // frmMemoryRead has still to be joined.
-  for (FormPlace* place : std::initializer_list<FormPlace*>{&frmDumpCDIO, &frmDumpC17, &frmDumpDRC, &frmRegister}) {
+  for (FormPlace* place :
+       std::initializer_list<FormPlace*>{&frmDumpCDIO, &frmDumpC17, &frmDumpDRC, &frmRegister, &frmMemoryRead}) {
     if (place->visible()) place->form()->hide();
   }
 }

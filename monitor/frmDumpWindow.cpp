@@ -3,6 +3,7 @@
 #include <cstdlib>
 #include <string>
 
+#include "kernel/cellAddress.h"
 #include "kernel/hexText.h"
 #include "kernel/state.h"
 #include "learning/messages.h"

@@ -5,6 +5,7 @@
 #include <cstring>
 #include <string>
 
+#include "chip/frmEditMemory.h"
 #include "kernel/hexText.h"
 #include "kernel/state.h"
 #include "learning/frmMessage.h"
@@ -22,14 +23,6 @@ namespace {
 
 constexpr int kColumnMask = kDumpColumns - 1;
 constexpr std::string_view kRedSeconds = "5";
-
-/// CPU types by their bits.
-bool bigEndian() {
-  return (cpuType & 2) != 0;
-}
-bool wordBus() {
-  return (cpuType & 1) == 0;
-}
 
 FormPlace& placeOf(int window) {
   static constexpr std::array<FormPlace*, 3> kPlaces = {&frmDumpCDIO, &frmDumpC17, &frmDumpDRC};
@@ -132,13 +125,6 @@ int cellOfOffset(int offset) {
   return (offset & ~kColumnMask) + column;
 }
 
-int addressOfCell(std::string_view firstRowCaption, int cellIndex) {
-  const int base = static_cast<int>(hexValue(std::string(firstRowCaption))) * kDumpColumns;
-  const int column = cellIndex & kColumnMask;
-  // No exact inverse of cellOfOffset: a big-endian column stands for its own address.
-  return (cellIndex & ~kColumnMask) + base + (bigEndian() ? column : kColumnMask - column);
-}
-
 void refreshDumpWindow(int window) {
   if (!placeOf(window).visible()) return;
   const auto [name, title, base, count, top, left, region] = kDumpWindows[static_cast<std::size_t>(window)];
@@ -169,7 +155,7 @@ void resetDumpLayout(int window) {
     // One that is not loaded takes its layout when it opens.
     if (!placeOf(at).loaded()) continue;
     FrmDump& form = dumpForm(at);
-    form.piMode = wordBus() ? 1 : 0;
+    form.piMode = wideBus() ? 1 : 0;
     if (bigEndian()) {
       setHeaderBig(form);
     } else {
@@ -230,25 +216,15 @@ double memoryEditorTop(const FrmDump& form, int cellIndex) {
          2 * cell.Height;
 }
 
-namespace {
-
-/// All that the memory editor is told.
-struct MemoryEdit {
-  FrmDump& form;
-  std::string_view firstRowCaption;
-  int cellIndex;
-  double left, top;  // twips, on the screen
-  bool wordAccess;   // opnAccess(0) is enabled and selected, else opnAccess(1) is selected
-};
-
-/// The one place that reaches into frmEditMemory. That form has still to be joined: until then nothing opens.
-void showMemoryEditor([[maybe_unused]] const MemoryEdit& edit) {}
-
-}  // namespace
-
 void openMemoryEditor(FrmDump& form, std::string_view firstRowCaption, int cellIndex, double left) {
+  FrmEditMemory& editor = *frmEditMemory;
+  editor.move(left, memoryEditorTop(form, cellIndex));
+  editor.cells = &form.lblData;
+  editor.editCellIndex = static_cast<std::int16_t>(cellIndex);
+  editor.editFirstRowCaption = firstRowCaption;
+  editor.chooseAccess();
   if (frmMessage.visible()) frmMessage->hide();
-  showMemoryEditor({form, firstRowCaption, cellIndex, left, memoryEditorTop(form, cellIndex), wordBus()});
+  editor.show(ShowMode::Modal, frmMDI.get());
 }
 
 }  // namespace zelvs

@@ -28,10 +28,6 @@ void layoutWords(FrmDump& form);
 
 /// The cell that shows a byte at an offset (from 0) from its window's base.
 int cellOfOffset(int offset);
-/// The 16-bit address by which the CPU knows a cell, counted from the heading of the window's first row. On a
-/// big-endian CPU that is the column's address, which the byte shown there has only after its lowest bit is inverted.
-int addressOfCell(std::string_view firstRowCaption, int cellIndex);
-
 /// Brings window 0 to 2 up, or gives it the focus, with layout and bytes anew.
 void openDumpWindow(int window);
 /// Opens the memory windows that the settings name.
