@@ -8,6 +8,13 @@ wait 100
 screenshot all bench.png
 screenshot frmHard panel-all-connected.png
 
+# The CPU enables an interrupt.
+dblclick frmRegister.lblValH(4)
+type frmEditRegister.txtWriteData 04
+screenshot frmEditRegister register-write.png
+screenshot frmRegister register-marked.png
+click frmEditRegister.cmdAction(1)
+
 dblclick frmHard.picIOS
 screenshot frmHard panel-list-open.png
 select frmHard.cmbIOS 0
