@@ -24,8 +24,8 @@ enum { kCDIO, kC17, kDRC };
 constexpr double kRowHeight = 225;
 constexpr double kHexLeft = 300;
 constexpr double kAreaTop = 600;
-constexpr double kHeadingTop = 135;
-constexpr double kFirstRow = 360;
+constexpr double kHeadingTop = 165;
+constexpr double kFirstRow = 390;
 constexpr double kBelowRows = 45;
 constexpr double kBelowArea = 75;
 constexpr double kCellWidth = 210;
@@ -161,15 +161,15 @@ void FrmDump::placeControls() {
   lblTitle.placeIn(Picture1);
   text(lblTitle, "adr.", 60, kHeadingTop, 420);
   Label1.placeIn(Picture2);
-  text(Label1, "Ascii Dump", kAsciiFirst, 0, 1200);
-  Label1.Height = 165;
+  text(Label1, "Ascii Dump", kAsciiFirst, 15, 1200);
+  Label1.Height = 180;
   // Six lines over one another: the long ones in the middle, so that the wedge has its point there.
   constexpr std::array<int, 6> kLineAt = {5, 3, 1, 2, 4, 6};
   for (std::size_t at = 0; at < kLineAt.size(); ++at) {
     for (Line* line : {&linLow(kLineAt[at]), &linHigh(kLineAt[at])}) {
       line->placeIn(Picture1);
       line->ForeColor = kHeadingText;
-      line->Y1 = line->Y2 = 22.5 + kTwipsPerPixel * static_cast<double>(at);
+      line->Y1 = line->Y2 = 52.5 + kTwipsPerPixel * static_cast<double>(at);
     }
   }
   for (Label& heading : lblOff) {

@@ -117,10 +117,14 @@ class AccessibleCanvas final : public QAccessibleWidget {
   }
 
   int indexOfChild(const QAccessibleInterface* child) const override {
-    for (int index = childCount() - 1; index >= 0; --index) {
-      if (this->child(index) == child) return index;
+    // Looked through once: a memory window paints thousands.
+    const std::vector<Control*> controls = painted();
+    for (std::size_t position = 0; position < controls.size(); ++position) {
+      if (interfaceOf(*controls[position]) == child) {
+        return QAccessibleWidget::childCount() + static_cast<int>(position);
+      }
     }
-    return -1;
+    return QAccessibleWidget::indexOfChild(child);
   }
 
  private:

@@ -16,7 +16,6 @@ expect frmDumpCDIO.Visible True
 click frmDumpCDIO.cmbBit(0)
 expect frmDumpCDIO.Width 7350
 # A click that the scan refuses.
-expect frmHard.picScanLed.Tag 0
 wait 100
 expect frmHard.picScanLed.Tag 1
 dblclick frmDumpCDIO.lblData(256)

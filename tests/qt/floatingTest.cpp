@@ -1,0 +1,145 @@
+// A child that floats: it leaves the area of the others for the frame itself, moves with the mouse and comes back.
+
+#include <gtest/gtest.h>
+
+#include <QApplication>
+#include <QMainWindow>
+#include <QMdiArea>
+#include <QMdiSubWindow>
+#include <QMouseEvent>
+#include <memory>
+
+#include "monitor/frmDumpDRC.h"
+#include "panel/frmHard.h"
+#include "shell/frmMDI.h"
+#include "support/program.h"
+#include "ui/qt/canvas.h"
+#include "ui/qt/desktopScript.h"
+
+namespace zelvs {
+namespace {
+
+class FloatingTest : public testing::Test {
+ protected:
+  FloatingTest() {
+    qputenv("QT_QPA_PLATFORM", "offscreen");
+    desktop_ = std::make_unique<DesktopScript>(argc_, argv_);
+    clearState();
+    programFolder = folder_.path();
+    folder_.write("ZELVS.INI", makerIni({{"OPENWINDOW1", "0"}, {"OPENWINDOW2", "0"}, {"OPENWINDOW5", "1"}}));
+    startUp();
+    settle();
+  }
+  ~FloatingTest() override { desk().clear(); }
+
+  static void settle() {
+    for (int i = 0; i < 3; ++i)
+      QApplication::processEvents();
+  }
+  void click(Control& control) {
+    EXPECT_EQ(desktop_->hands().click(control.form(), &control), "");
+    settle();
+  }
+  static Canvas* canvasOf(const Form* form) {
+    for (QWidget* widget : QApplication::allWidgets()) {
+      auto* canvas = qobject_cast<Canvas*>(widget);
+      if (canvas != nullptr && canvas->form() == form) return canvas;
+    }
+    return nullptr;
+  }
+  static QMdiSubWindow* windowOf(const Form* form) {
+    return qobject_cast<QMdiSubWindow*>(canvasOf(form)->parentWidget());
+  }
+  /// What the user sees at the middle of the memory window.
+  static QWidget* seen(const QMdiSubWindow& window) {
+    QWidget* frame = window.window();
+    QWidget* widget = frame->childAt(window.mapTo(frame, window.rect().center()));
+    while (widget != nullptr && qobject_cast<Canvas*>(widget) == nullptr)
+      widget = widget->parentWidget();
+    return widget;
+  }
+
+  TemporaryFolder folder_;
+  int argc_ = 1;
+  char name_[5] = "test";
+  char* argv_[2] = {name_, nullptr};
+  std::unique_ptr<DesktopScript> desktop_;
+};
+
+TEST_F(FloatingTest, ItStaysInFrontOfThePanelAndComesBackToItsPlace) {
+  QMdiSubWindow* window = windowOf(frmDumpDRC.form());
+  ASSERT_NE(window, nullptr);
+  // Over the panel.
+  frmDumpDRC->move(1500, 3000);
+  desk().activate(*frmHard);
+  settle();
+  EXPECT_EQ(seen(*window), canvasOf(frmHard.form()));
+  const QPoint place = window->mapToGlobal(QPoint(0, 0));
+
+  click(frmDumpDRC->chkTopMost);
+  EXPECT_EQ(windowOf(frmDumpDRC.form()), window) << "the same window with the same title bar";
+  EXPECT_EQ(window->mdiArea(), nullptr);
+  EXPECT_TRUE(window->isVisible());
+  EXPECT_EQ(window->mapToGlobal(QPoint(0, 0)), place);
+  desk().activate(*frmHard);
+  settle();
+  EXPECT_EQ(seen(*window), canvasOf(frmDumpDRC.form()));
+  EXPECT_TRUE(frmDumpDRC->floating());
+
+  click(frmDumpDRC->chkTopMost);
+  EXPECT_NE(window->mdiArea(), nullptr);
+  EXPECT_TRUE(window->isVisible());
+  EXPECT_EQ(window->mapToGlobal(QPoint(0, 0)), place);
+  desk().activate(*frmHard);
+  settle();
+  EXPECT_EQ(seen(*window), canvasOf(frmHard.form()));
+}
+
+TEST_F(FloatingTest, ThePlaceThatTheUserGivesItIsTheModels) {
+  click(frmDumpDRC->chkTopMost);
+  QMdiSubWindow* window = windowOf(frmDumpDRC.form());
+  window->move(300, 200);
+  settle();
+  EXPECT_EQ(frmDumpDRC->Left, 300 * 15 + 30.0);
+  EXPECT_EQ(frmDumpDRC->Top, 200 * 15 + 30.0);
+  const QPoint place = window->mapToGlobal(QPoint(0, 0));
+  click(frmDumpDRC->chkTopMost);
+  EXPECT_EQ(window->mapToGlobal(QPoint(0, 0)), place);
+}
+
+TEST_F(FloatingTest, ItIsDraggedByItsTitleBarAndTurnedToByIt) {
+  click(frmDumpDRC->chkTopMost);
+  desk().activate(*frmHard);
+  settle();
+  QMdiSubWindow* window = windowOf(frmDumpDRC.form());
+  const QPoint before = window->pos();
+  const QPointF grip(150, 8);
+  const auto send = [&](QEvent::Type type, QPointF at, bool down) {
+    const QPointF global = window->parentWidget()->mapToGlobal(QPointF(before) + at);
+    QMouseEvent event(type, window->mapFromGlobal(global), global,
+                      type == QEvent::MouseMove ? Qt::NoButton : Qt::LeftButton, down ? Qt::LeftButton : Qt::NoButton,
+                      Qt::NoModifier);
+    QApplication::sendEvent(window, &event);
+    settle();
+  };
+  send(QEvent::MouseButtonPress, grip, true);
+  EXPECT_EQ(desk().active(), frmDumpDRC.form());
+  send(QEvent::MouseMove, grip + QPointF(-40, -30), true);
+  send(QEvent::MouseButtonRelease, grip + QPointF(-40, -30), false);
+  EXPECT_EQ(window->pos(), before + QPoint(-40, -30));
+  EXPECT_EQ(frmDumpDRC->Left, (before.x() - 40) * 15 + 30.0);
+}
+
+TEST_F(FloatingTest, ClosedWhileItFloatsItComesBackAmongTheOthers) {
+  click(frmDumpDRC->chkTopMost);
+  EXPECT_EQ(desktop_->hands().close(*frmDumpDRC), "");
+  settle();
+  EXPECT_FALSE(frmDumpDRC.loaded());
+  frmDumpDRC->show();
+  settle();
+  EXPECT_FALSE(frmDumpDRC->floating());
+  EXPECT_NE(windowOf(frmDumpDRC.form())->mdiArea(), nullptr);
+}
+
+}  // namespace
+}  // namespace zelvs
