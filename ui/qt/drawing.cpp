@@ -1,5 +1,6 @@
 #include "ui/qt/drawing.h"
 
+#include <QCoreApplication>
 #include <QGuiApplication>
 #include <QHash>
 #include <QScreen>
@@ -25,6 +26,7 @@ QColor colourOf(Colour colour) {
 QFont fontOf(double points, bool bold) {
   // Looking a family up costs more than drawing a line of text: the few sizes in use are kept.
   static QHash<std::pair<double, bool>, QFont> kept;
+  if (kept.isEmpty()) qAddPostRoutine([] { kept.clear(); });
   const auto found = kept.constFind({points, bold});
   if (found != kept.constEnd()) return *found;
   QFont font;
@@ -75,6 +77,8 @@ struct Letters {
 
 Letters& lettersOf(double points, bool bold) {
   static QHash<std::pair<double, bool>, std::shared_ptr<Letters>> kept;
+  // The engine behind a font goes with the application.
+  if (kept.isEmpty()) qAddPostRoutine([] { kept.clear(); });
   std::shared_ptr<Letters>& letters = kept[{points, bold}];
   if (letters == nullptr) {
     letters = std::make_shared<Letters>();
