@@ -1,5 +1,6 @@
 // Which byte stands in which cell, what the cells say, and how they turn red and fade.
 
+#include "kernel/cellAddress.h"
 #include "kernel/resets.h"
 #include "kernel/tick.h"
 #include "monitor/dumpFixture.h"

@@ -1,5 +1,7 @@
 // What the user does with the memory windows: pointing, double clicks, opening, floating, the drop-down.
 
+#include "chip/frmEditMemory.h"
+#include "chip/frmMemoryRead.h"
 #include "learning/messages.h"
 #include "monitor/dumpFixture.h"
 #include "monitor/frmRegister.h"
@@ -17,11 +19,20 @@ constexpr const char* kHighProtected = "スキャン中、コントロールワ�
 class DumpHandsTest : public DumpTest {
  protected:
   static void scanning(bool on) { frmHard->picScanLed.Tag = on ? "1" : "0"; }
-  /// The refusal of a double click; empty when it went on to the editor, which takes the pop-up away.
-  static std::string refusalAt(Control& cell) {
+  static constexpr const char* kOpened = "the editor opened";
+
+  /// The refusal of a double click, or kOpened; the editor is closed again.
+  std::string refusalAt(Control& cell) {
     showMessage("left over");
+    bool opened = false;
+    platform.onModal = [&opened](Form& form) {
+      opened = &form == frmEditMemory.form();
+      EXPECT_FALSE(frmMessage.visible()) << "a message does not stand before the editor";
+      form.hide();
+    };
     doubleClick(cell);
-    if (!frmMessage.visible()) return {};
+    if (opened) return kOpened;
+    EXPECT_TRUE(frmMessage.visible());
     const std::string text = frmMessage->lblMessage.Caption;
     frmMessage->hide();
     return text;
@@ -69,17 +80,17 @@ TEST_F(DumpHandsTest, ADoubleClickIsRefusedByWindowRegionBusAndScan) {
       scanning(scan);
       SCOPED_TRACE(std::to_string(type) + (scan ? " scanning" : ""));
       for (const int cell : {0, 2, 126})
-        EXPECT_EQ(refusalAt(frmDumpCDIO->lblData(cell)), bytes && scan ? kHighProtected : "") << cell;
+        EXPECT_EQ(refusalAt(frmDumpCDIO->lblData(cell)), bytes && scan ? kHighProtected : kOpened) << cell;
       for (const int cell : {1, 127, 128, 129, 254, 255})
-        EXPECT_EQ(refusalAt(frmDumpCDIO->lblData(cell)), "") << cell;
+        EXPECT_EQ(refusalAt(frmDumpCDIO->lblData(cell)), kOpened) << cell;
       for (const int cell : {256, 257, 383})
-        EXPECT_EQ(refusalAt(frmDumpCDIO->lblData(cell)), scan ? kProtected : "") << cell;
+        EXPECT_EQ(refusalAt(frmDumpCDIO->lblData(cell)), scan ? kProtected : kOpened) << cell;
       for (const int cell : {0, 1, 500, 895})
-        EXPECT_EQ(refusalAt(frmDumpC17->lblData(cell)), scan ? kProtected : "") << cell;
+        EXPECT_EQ(refusalAt(frmDumpC17->lblData(cell)), scan ? kProtected : kOpened) << cell;
       for (const int cell : {0, 64, 127})
-        EXPECT_EQ(refusalAt(frmDumpDRC->lblData(cell)), "") << cell;
+        EXPECT_EQ(refusalAt(frmDumpDRC->lblData(cell)), kOpened) << cell;
       for (Control* letter : {&frmDumpCDIO->lblASC(0), &frmDumpCDIO->lblASC(300), &frmDumpC17->lblASC(895)})
-        EXPECT_EQ(refusalAt(*letter), "") << "ASCII cells are never refused";
+        EXPECT_EQ(refusalAt(*letter), kOpened) << "ASCII cells are never refused";
     }
   }
 }
@@ -90,6 +101,38 @@ TEST_F(DumpHandsTest, TheEditorStandsBelowTheRow) {
   const Label& cell = frmDumpCDIO->lblData(40);
   EXPECT_EQ(memoryEditorTop(*frmDumpCDIO, 40),
             45 + 300 + 225 + 600 + 300 + frmDumpCDIO->Picture1.Top + cell.Top + 2 * cell.Height);
+}
+
+TEST_F(DumpHandsTest, TheEditorIsToldOfTheCell) {
+  struct Row {
+    int cpu;
+    bool ascii;
+    const char* address;
+    bool word;
+  };
+  // Cell 40 is the ninth of the third row.
+  for (const Row& row : {Row{kWordLittle, false, "026", true}, Row{kByteLittle, true, "027", false},
+                         Row{kWordBig, false, "028", true}, Row{kByteBig, true, "028", false}}) {
+    chooseCpu(row.cpu);
+    Label& cell = row.ascii ? frmDumpCDIO->lblASC(40) : frmDumpCDIO->lblData(40);
+    bool opened = false;
+    platform.onModal = [&](Form& form) {
+      opened = true;
+      EXPECT_EQ(&form, frmEditMemory.form());
+      EXPECT_EQ(frmEditMemory->editCellIndex, 40);
+      EXPECT_EQ(frmEditMemory->editFirstRowCaption, "00x");
+      EXPECT_EQ(frmEditMemory->lblAdr.Caption.get(), row.address) << row.cpu;
+      EXPECT_EQ(frmEditMemory->opnAccess(0).Enabled.get(), row.word);
+      EXPECT_EQ(frmDumpCDIO->lblData(40).ForeColor.get(), kRed);
+      const PictureBox& container = row.ascii ? frmDumpCDIO->Picture2 : frmDumpCDIO->Picture1;
+      EXPECT_EQ(frmEditMemory->Left, container.Left + cell.Left + frmDumpCDIO->Left);
+      EXPECT_EQ(frmEditMemory->Top, memoryEditorTop(*frmDumpCDIO, 40));
+      form.close(true);
+    };
+    doubleClick(cell);
+    EXPECT_TRUE(opened);
+    EXPECT_EQ(frmDumpCDIO->lblData(40).ForeColor.get(), kBlack);
+  }
 }
 
 TEST_F(DumpHandsTest, WindowsOpenAtTheirPlacesAndLayout) {
@@ -197,6 +240,12 @@ TEST_F(DumpHandsTest, MemoryReadIsRefusedOnAWordBus) {
   click(frmMDI->lblMemoryWindow);
   click(frmDumpSel->cmdAREA(3));
   EXPECT_FALSE(frmMessage.visible());
+  EXPECT_TRUE(frmMemoryRead.visible());
+  EXPECT_EQ(frmMemoryRead->Top, frmHard->Top + 2500);
+  EXPECT_EQ(frmMemoryRead->Left, frmHard->Left + 1800);
+  click(frmMDI->lblMemoryWindow);
+  click(frmDumpSel->cmdAREA(4));
+  EXPECT_FALSE(frmMemoryRead.visible());
 }
 
 TEST_F(DumpHandsTest, TheLastEntryHidesTheMonitorWindows) {
