@@ -8,12 +8,42 @@ wait 100
 screenshot all bench.png
 screenshot frmHard panel-all-connected.png
 
-# The CPU enables an interrupt.
+# The CPU's side
+click frmMDI.lblMemoryWindow
+screenshot frmDumpSel memory-drop-down.png
+click frmDumpSel.cmdAREA(1)
+click frmMDI.lblMemoryWindow
+click frmDumpSel.cmdAREA(2)
+click frmHard.picPI(5)
+click frmHard.picCounter(2)
+poke 0x02 0x22
+wait 100
+screenshot frmDumpCDIO memory-cdio.png
+screenshot frmDumpC17 memory-c17.png
+screenshot frmDumpDRC memory-drc.png
+screenshot frmRegister register-window.png
+dblclick frmDumpDRC.lblData(13)
+screenshot frmEditMemory memory-write.png
+screenshot all every-window.png
+click frmEditMemory.cmdAction(1)
+# It enables an interrupt.
 dblclick frmRegister.lblValH(4)
 type frmEditRegister.txtWriteData 04
 screenshot frmEditRegister register-write.png
 screenshot frmRegister register-marked.png
 click frmEditRegister.cmdAction(1)
+click frmHard.lblBoardName(0)
+dblclick frmHard.picCPU
+select frmHard.cmbCPUType 1
+click frmMDI.lblMemoryWindow
+click frmDumpSel.cmdAREA(3)
+type frmMemoryRead.txtAddress 102
+click frmMemoryRead.cmdAction(0)
+screenshot frmMemoryRead memory-read.png
+dblclick frmHard.picCPU
+select frmHard.cmbCPUType 0
+click frmMDI.lblMemoryWindow
+click frmDumpSel.cmdAREA(4)
 
 dblclick frmHard.picIOS
 screenshot frmHard panel-list-open.png

@@ -1,4 +1,4 @@
-// What the three memory windows cost to paint, off-screen.
+// What the monitor windows cost to paint, off-screen.
 
 #include <benchmark/benchmark.h>
 
@@ -26,7 +26,9 @@ void startOnce() {
     (void)desktop;
     const auto folder = std::filesystem::temp_directory_path() / "zelvs-memory-paint-bench";
     std::filesystem::create_directories(folder);
-    std::ofstream(folder / "ZELVS.INI") << "[INIT]\nMEMORYCLEAR=1\nOPENWINDOW3=1\nOPENWINDOW4=1\nOPENWINDOW5=1\n";
+    std::ofstream(folder / "ZELVS.INI") << "[INIT]\nCABLECONNECTION=1\nMEMORYCLEAR=1\nSA-QVT40-3=2\nSA-QVT50=4\n"
+                                           "CASCADE-QVT40-12=1\nCASCADE-QVT40-34=1\nIOS-QVT50=5\nOPENWINDOW1=1\n"
+                                           "OPENWINDOW3=1\nOPENWINDOW4=1\nOPENWINDOW5=1\n";
     programFolder = folder.string();
     startUp();
     QApplication::processEvents();
@@ -46,6 +48,17 @@ void paintChanges(benchmark::State& state) {
   }
 }
 BENCHMARK(paintChanges)->Arg(1)->Arg(10)->Arg(40)->Arg(60)->Arg(0x580)->Unit(benchmark::kMillisecond);
+
+/// One tick of RUN, painted, with every window open and board 1's DI changing each time.
+void tickWithEveryWindowOpen(benchmark::State& state) {
+  startOnce();
+  for (auto _ : state) {
+    boardDi[0] = static_cast<std::uint8_t>(boardDi[0] + 1);
+    timTick_Timer();
+    QApplication::processEvents();
+  }
+}
+BENCHMARK(tickWithEveryWindowOpen)->Unit(benchmark::kMicrosecond);
 
 }  // namespace
 }  // namespace zelvs
