@@ -204,7 +204,7 @@ std::optional<Value> inspect(const Control& control, std::string_view property, 
 }
 
 std::optional<Value> inspect(const Form& form, std::string_view property) {
-  if (const auto value = look(kForm, form, property)) return value;
+  if (auto value = look(kForm, form, property)) return value;
   for (const auto& [name, member] : form.members()) {
     if (name != property) continue;
     if (const auto* number = std::get_if<const std::int16_t*>(&member)) return Value::ofNumber(**number);
