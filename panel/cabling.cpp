@@ -4,6 +4,7 @@
 #include <string>
 
 #include "kernel/state.h"
+#include "learning/frmKAIROZU.h"
 #include "learning/messages.h"
 #include "panel/frmHard.h"
 #include "panel/panelSetup.h"
@@ -127,11 +128,14 @@ void picFConn_DblClick(int connector) {
   // The connectors on the slaves themselves plug nothing.
   if (connector == 0 || connector == 2) showSlave(connector / 2, true);
   frmHard->setFormWidth();
+  // For board 3's connector this names board 5, and it stays so.
+  changeKAIROZU(2 * connector + 1);
 }
 
 void picBridge_DblClick(int pair) {
   showSlave(pair, false);
   frmHard->setFormWidth();
+  if (frmKAIROZU.visible()) frmKAIROZU->hide();
 }
 
 void showTransfer(bool full) {
@@ -159,6 +163,8 @@ void picJumper_DblClick(int /*index*/) {
   if ((chipMemory[kBcrLow] & kBcrFullDuplex) != boardFullHalf) {
     askDialog("設定がＱＶＴ６０のレジスタ設定と一致していません。", DialogMode::OneButton, kWarningTitle);
   }
+  for (int board = 0; board <= 5; ++board)
+    changeKAIROZU(board);
 }
 
 void picNoise_MouseDown() {

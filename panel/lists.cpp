@@ -11,6 +11,7 @@
 #include "kernel/hexText.h"
 #include "kernel/outputStage.h"
 #include "kernel/state.h"
+#include "learning/frmKAIROZU.h"
 #include "learning/messages.h"
 #include "monitor/mduMemoryWindow.h"
 #include "panel/frmHard.h"
@@ -91,6 +92,7 @@ void takeCPUType() {
   // It reads byte by byte, as a 16-bit bus never does.
   if (wideBus() && frmMemoryRead.visible()) frmMemoryRead->hide();
   resetDumpLayout(kAllDumpWindows);
+  changeKAIROZU(0);
 }
 
 void takeIOS() {
@@ -99,6 +101,7 @@ void takeIOS() {
   driveIoBoardOutputs();
   setPointer(frmHard->picIOS, kDoubleClickPointer);
   frmHard->cmbIOS.Visible = false;
+  changeKAIROZU(5);
 }
 
 void takeMode() {

@@ -1,15 +1,20 @@
 // The boards' process side: DI switches, counters, CLR, RESET, setting switches and the pins of board 5.
 
+#include <algorithm>
+#include <array>
 #include <string>
 #include <string_view>
 
 #include "kernel/outputStage.h"
 #include "kernel/resets.h"
 #include "kernel/state.h"
+#include "learning/frmKAIROZU.h"
+#include "learning/frmOsiro.h"
 #include "learning/messages.h"
 #include "panel/frmHard.h"
 #include "panel/panelSetup.h"
 #include "panel/pinModes.h"
+#include "shell/frmMDI.h"
 
 namespace zelvs {
 
@@ -154,6 +159,40 @@ void picSDI_DblClick(int i) {
   if (serialPending[i] == kTrue) showMessage("SEがローレベル(LED点灯)中は入力できません。");
 }
 
+/// Picks the explanation of what a board's two setting switches, 0 to 4, mean together. Untouched ones mean nothing.
+void showStbPicture(int board) {
+  const auto is = [board](std::string_view ssa, std::string_view ssb) {
+    return frmHard->picSSA(board).Tag == ssa && frmHard->picSSB(board).Tag == ssb;
+  };
+  const int image = is("0", "0") ? 1 : is("1", "0") ? 2 : is("0", "1") ? 3 : is("1", "1") ? 4 : 0;
+  frmOsiro->initPicture(image);
+}
+
+struct Offset {
+  double top;
+  double left;
+};
+// Twips from the panel's corner, beside the board; the last one serves all other boards.
+constexpr std::array<Offset, 5> kExplanationPlaces = {
+    {{4000, 7900}, {4000, 13300}, {7100, 7900}, {7100, 13300}, {9000, 7900}}};
+
+void explainStb(int board) {
+  const Offset& place = kExplanationPlaces[static_cast<std::size_t>(std::min(board, 4))];
+  frmOsiro->move(frmHard->Left + place.left, frmHard->Top + place.top);
+  showStbPicture(board);
+  if (!frmOsiro.visible()) frmOsiro->show(ShowMode::Modeless, frmMDI.get());
+}
+
+void picSSA_DblClick(int i) {
+  turnSettingSwitch(frmHard->picSSA(i));
+  explainStb(i);
+}
+
+void picSSB_DblClick(int i) {
+  turnSettingSwitch(frmHard->picSSB(i));
+  explainStb(i);
+}
+
 void setPin(PictureBox& pin, char kind) {
   // A pin that the mode does not have is only hidden: its Tag stays as it was.
   pin.Visible = kind != '*';
@@ -253,8 +292,11 @@ void attachPins(FrmHard& panel) {
   panel.picCLR.on(&Control::onMouseUp, picCLR_MouseUp);
   panel.picReset.on(&Control::onDblClick, picReset_DblClick);
   panel.picReset.on(&Control::onMouseUp, picReset_MouseUp);
-  panel.picSSA.on(&Control::onDblClick, [](int i) { turnSettingSwitch(frmHard->picSSA(i)); });
-  panel.picSSB.on(&Control::onDblClick, [](int i) { turnSettingSwitch(frmHard->picSSB(i)); });
+  panel.picSSA.on(&Control::onDblClick, picSSA_DblClick);
+  panel.picSSB.on(&Control::onDblClick, picSSB_DblClick);
+  panel.picSTB.on(&Control::onDblClick, [](int i) { explainStb(i / 2); });
+  panel.picQVT.on(&Control::onDblClick, [](int i) { frmKAIROZU->setKAIROZU(i); });
+  panel.picPWM.onDblClick = [] { frmKAIROZU->setKAIROZU(5); };
   panel.picSDI.on(&Control::onDblClick, picSDI_DblClick);
   panel.timMotor.onTimer = turnBelt;
   panel.timSE.onTimer = timSE_Timer;
