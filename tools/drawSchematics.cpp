@@ -29,13 +29,14 @@ enum : unsigned {
   kLine = 16,    // the board has its own line part
   kRibbon = 32,  // a slave board hangs on it
   kSlave = 64,   // it hangs on a master
+  kAlone = 128,  // neither of the two
 };
 
 enum class Kind {
   kBox,          // w x h from x, y; the name over it
   kResistor,     // lying, from x over w; leads included
   kStanding,     // a standing resistor, from y over h
-  kLed,          // anode right, from x over w
+  kLed,          // from x over w; the anode at the right, with h at the left
   kGround,       // x, y is the lead
   kSupply,       // x, y is the lead
   kButton,       // from x over w
@@ -44,6 +45,7 @@ enum class Kind {
   kTransformer,  // pairs of leads at y and y + h, from x over w
   kRotary,       // a dial in a box
   kOpen,         // a pin that is left open
+  kTest,         // a test point
   kNote,         // plain text, left at x, middle at y
   kName,         // blue text, left at x, middle at y
 };
@@ -97,8 +99,8 @@ constexpr Part kLineParts[] = {
     {kFull, Kind::kTransformer, 180, 100, 44, 24, "QPT900-X"},
     {kAlways, Kind::kBox, 276, 38, 64, 98, "TRX"},
     {kFull, Kind::kGround, 358, 82, 0, 0},
-    {kFull, Kind::kNote, 132, 26, 0, 0, "全2重 (2対)"},
-    {kHalf, Kind::kNote, 132, 26, 0, 0, "半2重 (1対)"},
+    {kFull, Kind::kNote, 98, 24, 0, 0, "全2重 (2対)"},
+    {kHalf, Kind::kNote, 98, 24, 0, 0, "半2重 (1対)"},
 };
 constexpr Pin kLinePins[] = {
     {kFull, Side::kRight, 80, 50, "RX+"},    {kFull, Side::kRight, 80, 74, "RX-"},
@@ -125,39 +127,39 @@ constexpr Net kLineNets[] = {
 // The rest of the line strip: from the line part down to the chip, and the clock.
 constexpr Part kStripParts[] = {
     {kLine, Kind::kBox, 520, 90, 90, 26, "OSC"},
-    {kLine, Kind::kNote, 544, 103, 0, 0, "48MHz"},
+    {kLine, Kind::kNote, 551, 103, 0, 0, "48MHz"},
 };
 constexpr Net kStripNets[] = {
-    {kLine, {{{340, 50}, {416, 50}, {416, 180}}}},
-    {kLine, {{{340, 100}, {376, 100}, {376, 180}}}},
-    {kLine, {{{340, 124}, {348, 124}, {348, 180}}}},
-    {kLine, {{{520, 103}, {446, 103}, {446, 180}}}},
+    {kLine, {{{340, 50}, {398, 50}, {398, 160}}}},
+    {kLine, {{{340, 100}, {372, 100}, {372, 160}}}},
+    {kLine, {{{340, 124}, {348, 124}, {348, 160}}}},
+    {kLine, {{{520, 103}, {426, 103}, {426, 160}}}},
 };
 constexpr Pin kStripPins[] = {
-    {kAlways, Side::kTop, 348, 180, "TXD"},
-    {kAlways, Side::kTop, 376, 180, "TXE"},
-    {kAlways, Side::kTop, 416, 180, "RXD"},
-    {kAlways, Side::kTop, 446, 180, "CLK"},
+    {kAlways, Side::kTop, 348, 160, "TXD"},
+    {kAlways, Side::kTop, 372, 160, "TXE"},
+    {kAlways, Side::kTop, 398, 160, "RXD"},
+    {kAlways, Side::kTop, 426, 160, "CLK"},
 };
 
 // The center board.
 constexpr Part kCenterParts[] = {
-    {kAlways, Kind::kBox, 430, 40, 130, 486},
+    {kAlways, Kind::kBox, 430, 40, 130, 514},
     {kAlways, Kind::kBox, 660, 40, 70, 486, "CPU BUS"},
     {kNarrow, Kind::kOpen, 572, 56, 0, 0, "", 8, 14},
     {kAlways, Kind::kBox, 250, 330, 90, 26, "OSC"},
-    {kAlways, Kind::kNote, 276, 343, 0, 0, "48MHz"},
+    {kAlways, Kind::kNote, 281, 343, 0, 0, "48MHz"},
     {kAlways, Kind::kButton, 250, 398, 60, 0, "RESET"},
     {kAlways, Kind::kGround, 240, 406, 0, 0},
     {kAlways, Kind::kStanding, 370, 376, 0, 22, "10kΩ"},
     {kAlways, Kind::kSupply, 370, 376, 0, 0},
-    {kAlways, Kind::kLed, 330, 436, 40, 0, "SCAN"},
-    {kAlways, Kind::kLed, 330, 466, 40, 0, "CHK1"},
-    {kAlways, Kind::kLed, 330, 496, 40, 0, "CHK2"},
+    {kAlways, Kind::kLed, 330, 436, 40, 1, "SCAN"},
+    {kAlways, Kind::kLed, 330, 466, 40, 1, "CHK1"},
+    {kAlways, Kind::kLed, 330, 496, 40, 1, "CHK2"},
     {kAlways, Kind::kResistor, 230, 436, 60, 0, "330Ω", 3, 30},
     {kAlways, Kind::kSupply, 210, 424, 0, 0},
-    {kWide, Kind::kSupply, 400, 512, 0, 0},
-    {kNarrow, Kind::kGround, 400, 520, 0, 0},
+    {kWide, Kind::kSupply, 400, 532, 0, 0},
+    {kNarrow, Kind::kGround, 400, 544, 0, 0},
 };
 constexpr Pin kCenterPins[] = {
     {kAlways, Side::kLeft, 430, 60, "RXD1"},        {kAlways, Side::kLeft, 430, 110, "TXE1"},
@@ -165,7 +167,7 @@ constexpr Pin kCenterPins[] = {
     {kAlways, Side::kLeft, 430, 260, "TXE2"},       {kAlways, Side::kLeft, 430, 284, "TXD2"},
     {kAlways, Side::kLeft, 430, 343, "CLK"},        {kAlways, Side::kLeft, 430, 398, "#RESET"},
     {kAlways, Side::kLeft, 430, 436, "#SCAN"},      {kAlways, Side::kLeft, 430, 466, "#CHK1"},
-    {kAlways, Side::kLeft, 430, 496, "#CHK2"},      {kAlways, Side::kLeft, 430, 516, "BUS16"},
+    {kAlways, Side::kLeft, 430, 496, "#CHK2"},      {kAlways, Side::kLeft, 430, 538, "BUS16"},
     {kWide, Side::kRight, 560, 56, "D", 16, 14},    {kWide, Side::kLeft, 660, 56, "D", 16, 14},
     {kNarrow, Side::kRight, 560, 56, "D", 16, 14},  {kNarrow, Side::kLeft, 660, 168, "D", 8, 14},
     {kAlways, Side::kRight, 560, 284, "A", 11, 14}, {kAlways, Side::kLeft, 660, 284, "A", 11, 14},
@@ -189,8 +191,8 @@ constexpr Net kCenterNets[] = {
     {kAlways, {{{290, 436}, {330, 436}}}, 0, 3, 30},
     {kAlways, {{{210, 424}, {210, 436}, {210, 466}, {210, 496}, {230, 496}}}, 6},
     {kAlways, {{{210, 436}, {230, 436}}}, 0, 2, 30},
-    {kWide, {{{430, 516}, {400, 516}, {400, 512}}}},
-    {kNarrow, {{{430, 516}, {400, 516}, {400, 520}}}},
+    {kWide, {{{430, 538}, {400, 538}, {400, 532}}}},
+    {kNarrow, {{{430, 538}, {400, 538}, {400, 544}}}},
     {kWide, {{{560, 56}, {660, 56}}}, 0, 16, 14},
     {kNarrow, {{{560, 56}, {572, 56}}}, 0, 8, 14},
     {kNarrow, {{{560, 168}, {660, 168}}}, 0, 8, 14},
@@ -201,7 +203,7 @@ constexpr Net kCenterNets[] = {
 
 // The board of sixteen inputs and sixteen outputs.
 constexpr Part kFortyParts[] = {
-    {kAlways, Kind::kBox, 310, 180, 160, 392},
+    {kAlways, Kind::kBox, 310, 160, 160, 412},
     // Inputs.
     {kAlways, Kind::kBox, 60, 228, 50, 204, "DIP SW"},
     {kAlways, Kind::kSwitch, 60, 240, 50, 0, "", 16, 12},
@@ -211,48 +213,50 @@ constexpr Part kFortyParts[] = {
     // The counters' buttons and the clear and reset buttons.
     {kAlways, Kind::kButton, 190, 446, 60, 0, "", 8, 13},
     {kAlways, Kind::kGround, 180, 545, 0, 0},
-    {kAlways, Kind::kName, 60, 478, 0, 0, "COUNTER 0-5"},
-    {kAlways, Kind::kName, 60, 524, 0, 0, "CLR"},
-    {kAlways, Kind::kName, 60, 537, 0, 0, "RESET"},
+    {kAlways, Kind::kName, 106, 478, 0, 0, "COUNTER 0-5"},
+    {kAlways, Kind::kNote, 88, 492, 0, 0, "内蔵プルアップ"},
+    {kAlways, Kind::kName, 152, 524, 0, 0, "CLR"},
+    {kAlways, Kind::kName, 141, 537, 0, 0, "RESET"},
     // Outputs.
-    {kAlways, Kind::kResistor, 480, 250, 50, 0, "", 16, 12},
-    {kAlways, Kind::kLed, 550, 250, 40, 0, "", 16, 12},
-    {kAlways, Kind::kName, 488, 238, 0, 0, "330Ω×16"},
-    {kAlways, Kind::kName, 554, 238, 0, 0, "LED×16"},
-    {kAlways, Kind::kSupply, 610, 240, 0, 0},
+    {kAlways, Kind::kResistor, 480, 236, 50, 0, "", 16, 12},
+    {kAlways, Kind::kLed, 550, 236, 40, 0, "", 16, 12},
+    {kAlways, Kind::kName, 488, 223, 0, 0, "330Ω×16"},
+    {kAlways, Kind::kName, 554, 223, 0, 0, "LED×16"},
+    {kAlways, Kind::kSupply, 610, 228, 0, 0},
     // Address, sub-address and the serial inputs.
-    {kAlways, Kind::kRotary, 530, 438, 110, 68, "SA ×10  ×1"},
-    {kAlways, Kind::kSwitch, 530, 510, 50, 0, "", 2, 11},
-    {kAlways, Kind::kGround, 596, 523, 0, 0},
+    {kAlways, Kind::kRotary, 530, 428, 110, 66, "SA ×10  ×1"},
+    {kAlways, Kind::kSwitch, 530, 505, 50, 0, "", 2, 14},
+    {kAlways, Kind::kGround, 612, 525, 0, 0},
     {kAlways, Kind::kBox, 640, 528, 96, 40, "SHIFT REG ×2"},
     {kAlways, Kind::kNote, 674, 548, 0, 0, "SI0-15"},
-    {kAlways, Kind::kName, 212, 552, 0, 0, "TP1"},
-    {kAlways, Kind::kName, 212, 564, 0, 0, "TP2"},
-    {kAlways, Kind::kOpen, 250, 552, 0, 0, "", 2, 12},
+    {kAlways, Kind::kName, 222, 552, 0, 0, "TP1"},
+    {kAlways, Kind::kName, 222, 564, 0, 0, "TP2"},
+    {kAlways, Kind::kTest, 250, 552, 0, 0, "", 2, 12},
     // The ribbon to the next board, or from the one before.
-    {kRibbon, Kind::kBox, 664, 178, 72, 60, "CN2 子機へ"},
-    {kRibbon, Kind::kNote, 590, 166, 0, 0, "リボン"},
+    {kAlone, Kind::kOpen, 490, 170, 0, 0, "", 4, 11},
+    {kRibbon, Kind::kBox, 664, 160, 72, 53, "CN2 子機へ"},
+    {kRibbon, Kind::kNote, 550, 160, 0, 0, "リボン"},
     {kSlave, Kind::kBox, 24, 38, 72, 104, "CN1 親機より"},
     {kSlave, Kind::kSupply, 120, 48, 0, 0},
     {kSlave, Kind::kGround, 120, 136, 0, 0},
     {kSlave, Kind::kNote, 180, 40, 0, 0, "リボンケーブル (回線部なし)"},
-    {kSlave, Kind::kOpen, 348, 170, 0, 0},
-    {kSlave, Kind::kOpen, 376, 170, 0, 0},
-    {kSlave, Kind::kGround, 446, 160, 0, 0},
+    {kSlave, Kind::kOpen, 348, 150, 0, 0},
+    {kSlave, Kind::kOpen, 372, 150, 0, 0},
+    {kSlave, Kind::kGround, 452, 142, 0, 0},
 };
 constexpr Pin kFortyPins[] = {
     {kAlways, Side::kLeft, 310, 240, "DI", 16, 12},  {kAlways, Side::kLeft, 310, 446, "#CT", 6, 13},
     {kAlways, Side::kLeft, 310, 524, "#CLR"},        {kAlways, Side::kLeft, 310, 537, "#RESET"},
     {kAlways, Side::kLeft, 310, 552, "STB1"},        {kAlways, Side::kLeft, 310, 564, "STB2"},
-    {kAlways, Side::kRight, 470, 190, "NTX"},        {kAlways, Side::kRight, 470, 202, "NRX"},
-    {kAlways, Side::kRight, 470, 214, "NCK"},        {kAlways, Side::kRight, 470, 226, "NST"},
-    {kRibbon, Side::kLeft, 664, 190, "NTX"},         {kRibbon, Side::kLeft, 664, 202, "NRX"},
-    {kRibbon, Side::kLeft, 664, 214, "NCK"},         {kRibbon, Side::kLeft, 664, 226, "NST"},
+    {kAlways, Side::kRight, 470, 170, "NTX"},        {kAlways, Side::kRight, 470, 181, "NRX"},
+    {kAlways, Side::kRight, 470, 192, "NCK"},        {kAlways, Side::kRight, 470, 203, "NST"},
+    {kRibbon, Side::kLeft, 664, 170, "NTX"},         {kRibbon, Side::kLeft, 664, 181, "NRX"},
+    {kRibbon, Side::kLeft, 664, 192, "NCK"},         {kRibbon, Side::kLeft, 664, 203, "NST"},
     {kSlave, Side::kRight, 96, 54, "+5V"},           {kSlave, Side::kRight, 96, 70, "NTX"},
     {kSlave, Side::kRight, 96, 84, "NRX"},           {kSlave, Side::kRight, 96, 98, "NCK"},
     {kSlave, Side::kRight, 96, 112, "NST"},          {kSlave, Side::kRight, 96, 128, "GND"},
-    {kAlways, Side::kRight, 470, 250, "DO", 16, 12}, {kAlways, Side::kRight, 470, 444, "SA", 6, 11},
-    {kAlways, Side::kRight, 470, 510, "SSA"},        {kAlways, Side::kRight, 470, 521, "SSB"},
+    {kAlways, Side::kRight, 470, 236, "DO", 16, 12}, {kAlways, Side::kRight, 470, 434, "SA", 6, 11},
+    {kAlways, Side::kRight, 470, 505, "SSA"},        {kAlways, Side::kRight, 470, 519, "SSB"},
     {kAlways, Side::kRight, 470, 536, "SI"},         {kAlways, Side::kRight, 470, 548, "SCK"},
     {kAlways, Side::kRight, 470, 560, "SLD"},        {kAlways, Side::kLeft, 640, 536, "Q"},
     {kAlways, Side::kLeft, 640, 548, "CK"},          {kAlways, Side::kLeft, 640, 560, "LD"},
@@ -267,31 +271,32 @@ constexpr Net kFortyNets[] = {
     {kAlways, {{{190, 446}, {180, 446}, {180, 545}}}},
     {kAlways, {{{190, 459}, {180, 459}}}, 2, 7, 13},
     {kAlways, {{{250, 552}, {310, 552}}}, 0, 2, 12},
-    {kAlways, {{{470, 250}, {480, 250}}}, 0, 16, 12},
-    {kAlways, {{{530, 250}, {550, 250}}}, 0, 16, 12},
-    {kAlways, {{{590, 430}, {610, 430}, {610, 240}}}},
-    {kAlways, {{{590, 250}, {610, 250}}}, 2, 15, 12},
-    {kAlways, {{{470, 444}, {530, 444}}}, 0, 6, 11},
-    {kAlways, {{{470, 510}, {530, 510}}}, 0, 2, 11},
-    {kAlways, {{{580, 510}, {596, 510}, {596, 523}}}},
-    {kAlways, {{{580, 521}, {596, 521}}}, 2},
+    {kAlways, {{{470, 236}, {480, 236}}}, 0, 16, 12},
+    {kAlways, {{{530, 236}, {550, 236}}}, 0, 16, 12},
+    {kAlways, {{{590, 416}, {610, 416}, {610, 228}}}},
+    {kAlways, {{{590, 236}, {610, 236}}}, 2, 15, 12},
+    {kAlways, {{{470, 434}, {530, 434}}}, 0, 6, 11},
+    {kAlways, {{{470, 505}, {530, 505}}}, 0, 2, 14},
+    {kAlways, {{{580, 505}, {612, 505}, {612, 525}}}},
+    {kAlways, {{{580, 519}, {612, 519}}}, 2},
     {kAlways, {{{470, 536}, {640, 536}}}, 0, 3, 12},
-    {kRibbon, {{{470, 190}, {664, 190}}}, 0, 4, 12},
-    {kSlave, {{{96, 70}, {526, 70}, {526, 190}, {470, 190}}}},
-    {kSlave, {{{96, 84}, {514, 84}, {514, 202}, {470, 202}}}},
-    {kSlave, {{{96, 98}, {502, 98}, {502, 214}, {470, 214}}}},
-    {kSlave, {{{96, 112}, {490, 112}, {490, 226}, {470, 226}}}},
+    {kRibbon, {{{470, 170}, {664, 170}}}, 0, 4, 11},
+    {kAlone, {{{470, 170}, {490, 170}}}, 0, 4, 11},
+    {kSlave, {{{96, 70}, {526, 70}, {526, 170}, {470, 170}}}},
+    {kSlave, {{{96, 84}, {514, 84}, {514, 181}, {470, 181}}}},
+    {kSlave, {{{96, 98}, {502, 98}, {502, 192}, {470, 192}}}},
+    {kSlave, {{{96, 112}, {490, 112}, {490, 203}, {470, 203}}}},
     {kSlave, {{{96, 54}, {120, 54}, {120, 48}}}},
     {kSlave, {{{96, 128}, {120, 128}, {120, 136}}}},
-    {kSlave, {{{348, 170}, {348, 180}}}},
-    {kSlave, {{{376, 170}, {376, 180}}}},
-    {kSlave, {{{416, 180}, {416, 152}, {446, 152}, {446, 160}}}},
-    {kSlave, {{{446, 180}, {446, 172}, {430, 172}}}},
+    {kSlave, {{{348, 150}, {348, 160}}}},
+    {kSlave, {{{372, 150}, {372, 160}}}},
+    {kSlave, {{{398, 160}, {398, 136}, {426, 136}, {452, 136}, {452, 142}}}, 4},
+    {kSlave, {{{426, 160}, {426, 136}}}},
 };
 
 // The board of sixteen pins whose direction a switch chooses; the sixteen pins themselves follow from the mode.
 constexpr Part kFiftyParts[] = {
-    {kAlways, Kind::kBox, 310, 180, 160, 392},
+    {kAlways, Kind::kBox, 310, 160, 160, 412},
     {kAlways, Kind::kBox, 60, 238, 50, 104, "DIP SW"},
     {kAlways, Kind::kSwitch, 60, 298, 50, 0, "", 3, 16},
     {kAlways, Kind::kGround, 40, 350, 0, 0},
@@ -300,7 +305,8 @@ constexpr Part kFiftyParts[] = {
     {kAlways, Kind::kRotary, 60, 390, 130, 84, "SA ×10  ×1"},
     {kAlways, Kind::kButton, 190, 504, 60, 0, "RESET"},
     {kAlways, Kind::kGround, 180, 512, 0, 0},
-    {kAlways, Kind::kLed, 240, 550, 40, 0, "MON"},
+    {kAlways, Kind::kNote, 200, 518, 0, 0, "内蔵プルアップ"},
+    {kAlways, Kind::kLed, 240, 550, 40, 1, "MON"},
     {kAlways, Kind::kResistor, 160, 550, 60, 0, "330Ω"},
     {kAlways, Kind::kSupply, 140, 540, 0, 0},
 };
@@ -471,10 +477,12 @@ class Sheet {
       case Kind::kLed: {
         const int left = leads(part, y, 8);
         painter_.setBrush(QColor(220, 0, 0));
-        const QPoint corners[] = {{left + 8, y - 4}, {left + 8, y + 4}, {left, y}};
+        const int anode = part.h == 0 ? left + 8 : left;
+        const int cathode = part.h == 0 ? left : left + 8;
+        const QPoint corners[] = {{anode, y - 4}, {anode, y + 4}, {cathode, y}};
         painter_.drawPolygon(corners, 3);
         black();
-        painter_.drawLine(left, y - 4, left, y + 4);
+        painter_.drawLine(cathode, y - 4, cathode, y + 4);
         text(middle, y - 11, Qt::AlignHCenter, name, Qt::blue);
         break;
       }
@@ -530,6 +538,11 @@ class Sheet {
       case Kind::kOpen:
         painter_.drawLine(part.x - 3, y - 3, part.x + 3, y + 3);
         painter_.drawLine(part.x - 3, y + 3, part.x + 3, y - 3);
+        break;
+      case Kind::kTest:
+        painter_.setBrush(Qt::white);
+        painter_.drawEllipse(QPoint(part.x, y), 3, 3);
+        black();
         break;
       case Kind::kNote:
         text(part.x, y, Qt::AlignLeft, name, Qt::black);
@@ -592,6 +605,8 @@ constexpr int kRowTop = 226;
 constexpr int kRowStep = 20;
 constexpr int kSupplyRail = 586;
 constexpr int kGroundRail = 672;
+/// The pulse outputs stand apart from the other rows.
+constexpr int kPulseLift = 16;
 
 int rowOf(int bit) {
   return kRowTop + kRowStep * (15 - bit);
@@ -627,8 +642,8 @@ void drawDirections(Sheet& sheet, std::string_view pattern) {
     const bool counter = kind == '*' && bit < 8;
     const std::size_t special = static_cast<std::size_t>(3 - bit % 4);
     if (kind == '*' && !counter) {
-      sheet.wire({{470, y}, {620, y}});
-      sheet.pin(Side::kRight, 470, y, kPulsePins[special]);
+      sheet.wire({{470, y - kPulseLift}, {620, y - kPulseLift}});
+      sheet.pin(Side::kRight, 470, y - kPulseLift, kPulsePins[special]);
       continue;
     }
     if (highest < 0) highest = bit;
@@ -636,7 +651,7 @@ void drawDirections(Sheet& sheet, std::string_view pattern) {
     if (kind == 'O') {
       drawOutput(sheet, y);
       sheet.pin(Side::kRight, 470, y, QString("DO%1").arg(bit));
-      sheet.text(682, y, Qt::AlignLeft, QString("LED%1").arg(bit), Qt::blue);
+      sheet.text(596, y, Qt::AlignLeft, QString("LED%1").arg(bit), Qt::blue);
       continue;
     }
     drawInput(sheet, y, counter);
@@ -645,6 +660,10 @@ void drawDirections(Sheet& sheet, std::string_view pattern) {
     sheet.pin(Side::kRight, 470, y, counter ? QString(kCounterPins[special]) : QString("DI%1").arg(bit));
     sheet.text(682, y, Qt::AlignLeft, counter ? QString(kCounterPins[special]) : QString("SW%1").arg(bit), Qt::blue);
   }
+  QString values;
+  if (pattern.find('O') != std::string_view::npos) values += "LED 330Ω  ";
+  if (highestInput >= 0) values += "プルアップ 10kΩ";
+  sheet.text(484, 560, Qt::AlignLeft, values, Qt::black);
   const bool pulled = pattern[static_cast<std::size_t>(15 - lowest)] != 'O';
   sheet.wire({{kSupplyRail, rowOf(highest) - 14}, {kSupplyRail, rowOf(lowest) - (pulled ? 9 : 0)}});
   sheet.part({kAlways, Kind::kSupply, kSupplyRail, rowOf(highest) - 14, 0, 0});
@@ -653,15 +672,15 @@ void drawDirections(Sheet& sheet, std::string_view pattern) {
     sheet.part({kAlways, Kind::kGround, kGroundRail, rowOf(lowestInput) + 12, 0, 0});
   }
   if (pattern[0] == '*') {
-    sheet.part({kAlways, Kind::kBox, 620, rowOf(15) - 12, 64, rowOf(12) - rowOf(15) + 24, "MOTOR DRIVE"});
+    sheet.part({kAlways, Kind::kBox, 620, rowOf(15) - kPulseLift - 12, 64, rowOf(12) - rowOf(15) + 24, "MOTOR DRIVE"});
     for (int i = 0; i < 4; ++i) {
       constexpr std::array<const char*, 4> kDrivePins = {"CWON", "CCWON", "CWP", "CCWP"};
-      sheet.pin(Side::kLeft, 620, rowOf(15 - i), kDrivePins[static_cast<std::size_t>(i)]);
+      sheet.pin(Side::kLeft, 620, rowOf(15 - i) - kPulseLift, kDrivePins[static_cast<std::size_t>(i)]);
     }
-    sheet.wire({{684, rowOf(14)}, {702, rowOf(14)}});
-    sheet.wire({{684, rowOf(13)}, {702, rowOf(13)}});
-    sheet.part({kAlways, Kind::kBox, 702, rowOf(14) - 10, 34, kRowStep + 20});
-    sheet.text(719, rowOf(14) + 10, Qt::AlignHCenter, "M", Qt::blue, 16, true);
+    sheet.wire({{684, rowOf(14) - kPulseLift}, {702, rowOf(14) - kPulseLift}});
+    sheet.wire({{684, rowOf(13) - kPulseLift}, {702, rowOf(13) - kPulseLift}});
+    sheet.part({kAlways, Kind::kBox, 702, rowOf(14) - kPulseLift - 10, 34, kRowStep + 20});
+    sheet.text(719, rowOf(14) - kPulseLift + 10, Qt::AlignHCenter, "M", Qt::blue, 16, true);
   }
 }
 
@@ -705,7 +724,7 @@ int main(int count, char** arguments) {
               drawCenter(folder, "QVT60_FULL_8BIT.BMP", kFull | kNarrow) &&
               drawCenter(folder, "QVT60_HALF_16BIT.BMP", kHalf | kWide) &&
               drawCenter(folder, "QVT60_HALF_8BIT.BMP", kHalf | kNarrow) &&
-              drawForty(folder, "QVT40_FULL.BMP", kFull | kLine, "QVT40 入力16 出力16") &&
+              drawForty(folder, "QVT40_FULL.BMP", kFull | kLine | kAlone, "QVT40 入力16 出力16") &&
               drawForty(folder, "QVT40_FULL_NEST.BMP", kFull | kLine | kRibbon, "QVT40 親機 (子機あり)") &&
               drawForty(folder, "QVT40_NEST.BMP", kSlave, "QVT40 子機") && drawOverlay(folder, "Qvt40_add_half.bmp") &&
               drawOverlay(folder, "Qvt50_add_half.bmp");
