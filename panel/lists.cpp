@@ -119,7 +119,7 @@ void closesOnPick(ComboBox& list) {
   const auto close = [&list] { list.Visible = false; };
   list.onClick = close;
   list.onKeyDown = [close](int& code) {
-    if (code == key::kEscape || code == key::kEnter) close();
+    if (code == key::kEscape) close();
   };
 }
 

@@ -111,6 +111,11 @@ void ListControl::propertyChanged(const void* property) {
   if (property == &ListIndex && ListIndex != -1 && onClick) onClick();
 }
 
+void ComboBox::propertyChanged(const void* property) {
+  if (property == &ListIndex || property == &Visible) Marked = ListIndex.get();
+  ListControl::propertyChanged(property);
+}
+
 const std::string& TabStrip::TabCaption(int position) const {
   if (position < 0 || position >= Tabs) {
     runTimeError(fullName() + " has no tab " + std::to_string(position) + ": it has " + std::to_string(Tabs.get()) +

@@ -175,6 +175,10 @@ class ComboBox : public ListControl {
   ComboBox(Form* form, std::string_view name, int index = -1) : ListControl(form, name, index, ControlKind::ComboBox) {}
 
   Property<bool> Unrolled{this, false};
+  /// The row that the keyboard stands on in an unrolled list, -1 for none: Enter picks it. It starts at the selection.
+  Property<int> Marked{this, -1};
+
+  void propertyChanged(const void* property) override;
 };
 
 class ListBox : public ListControl {

@@ -208,6 +208,17 @@ void stepRow(Control& control, int code) {
   if (next >= 0 && next <= last) pickRow(control, next);
 }
 
+/// In an open list the arrows only move the mark: a row that was picked would close it.
+void markRow(ComboBox& list, int code) {
+  if (code == key::kEnter) {
+    if (list.Marked >= 0) pickRow(list, list.Marked);
+  } else if (code == key::kUp) {
+    list.Marked = std::max(list.Marked - 1, 0);
+  } else if (code == key::kDown) {
+    list.Marked = std::min(list.Marked + 1, list.ListCount() - 1);
+  }
+}
+
 }  // namespace
 
 std::string refusal(const Form& form, const Control* control) {
@@ -340,6 +351,11 @@ std::string keyDown(Control& control, int code) {
       break;
     }
     case ControlKind::ComboBox:
+      if (isOpenList(&control)) {
+        markRow(static_cast<ComboBox&>(control), code);
+        break;
+      }
+      [[fallthrough]];
     case ControlKind::ListBox:
     case ControlKind::TabStrip:
       if (code >= key::kLeft && code <= key::kDown) stepRow(control, code);

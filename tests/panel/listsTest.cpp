@@ -120,6 +120,20 @@ TEST_P(OpenerTest, AClickBesideTheListCloses) {
   EXPECT_FALSE(list().Visible);
 }
 
+TEST_P(OpenerTest, ArrowsMoveTheMarkAndEnterPicksIt) {
+  const int before = list().ListIndex;
+  doubleClick(picture());
+  for (const int code : {key::kDown, key::kDown, key::kUp})
+    EXPECT_EQ(gesture::keyDown(list(), code), "");
+  EXPECT_TRUE(list().Visible) << "the arrows pick nothing yet";
+  EXPECT_EQ(list().ListIndex, before);
+  const int marked = list().Marked;
+  EXPECT_GE(marked, 0);
+  EXPECT_EQ(gesture::keyDown(list(), key::kEnter), "");
+  EXPECT_FALSE(list().Visible);
+  EXPECT_EQ(list().ListIndex, pictureName() == "picMode" ? 0 : marked);
+}
+
 TEST_P(OpenerTest, EscapeCloses) {
   doubleClick(picture());
   EXPECT_EQ(gesture::keyDown(list(), key::kEscape), "");

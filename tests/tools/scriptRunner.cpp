@@ -164,7 +164,8 @@ TEST_F(ScriptRunnerTest, Gestures) {
                    {"dblclick frmHard.picSA(0)\nget frmHard.cmbSA(0).Visible", "frmHard.cmbSA(0).Visible = True\n"},
                    {"select frmHard.cmbSA(0) 0x0A\nget frmHard.cmbSA(0).Visible saSetting(0)",
                     "frmHard.cmbSA(0).Visible = False\nsaSetting(0) = 11\n"},
-                   {"dblclick frmHard.picSA(0)\nkey frmHard.cmbSA(0) 40\nget saSetting(0)", "saSetting(0) = 12\n"},
+                   {"dblclick frmHard.picSA(0)\nkey frmHard.cmbSA(0) 40\nkey frmHard.cmbSA(0) 13\nget saSetting(0)",
+                    "saSetting(0) = 12\n"},
                    {"dblclick frmHard.picSA(0)\nfocus frmHard.picNoise\nget frmHard.cmbSA(0).Visible",
                     "frmHard.cmbSA(0).Visible = False\n"},
                    {"activate frmRegister\nget frmRegister.Visible", "frmRegister.Visible = True\n"});

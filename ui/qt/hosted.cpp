@@ -128,13 +128,17 @@ class OpenList final : public Hosted<QListWidget> {
   void keyPressEvent(QKeyEvent* event) override {
     const int code = keyCodeOf(event->key());
     const bool list = control().kind() == ControlKind::ListBox;
-    if (code == key::kEnter && !list) {
-      gesture::pick(control(), currentRow());
-    } else if (code == key::kEscape || code == key::kEnter) {
+    const bool arrow = code == key::kUp || code == key::kDown;
+    if (code == key::kEscape || code == key::kEnter || (arrow && !list)) {
       gesture::keyDown(control(), code);
+      return;
+    }
+    // Everything else (a letter that a row begins with, a page) is the widget's own way to a row.
+    QListWidget::keyPressEvent(event);
+    if (list) {
+      if (currentRow() >= 0) gesture::pick(control(), currentRow());
     } else {
-      QListWidget::keyPressEvent(event);
-      if (list && currentRow() >= 0) gesture::pick(control(), currentRow());
+      static_cast<ComboBox&>(control()).Marked = currentRow();
     }
   }
 };
@@ -190,7 +194,8 @@ void showRows(const ListControl& list, QListWidget& widget) {
     widget.clear();
     widget.addItems(rows);
   }
-  if (widget.currentRow() != list.ListIndex) widget.setCurrentRow(list.ListIndex);
+  const int row = list.kind() == ControlKind::ComboBox ? static_cast<const ComboBox&>(list).Marked : list.ListIndex;
+  if (widget.currentRow() != row) widget.setCurrentRow(row);
 }
 
 void showTabs(const TabStrip& tabs, QTabBar& bar) {

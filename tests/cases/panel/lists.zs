@@ -38,3 +38,17 @@ expect frmHard.cmbClock(1).Visible True
 key frmHard.cmbClock(1) 27
 expect frmHard.cmbClock(1).Visible False
 expect clockSetting(1) 0
+
+# By keyboard: two rows down from the selection and Enter; Escape leaves everything as it was.
+dblclick frmHard.picClock(1)
+key frmHard.cmbClock(1) 38
+key frmHard.cmbClock(1) 38
+key frmHard.cmbClock(1) 40
+key frmHard.cmbClock(1) 13
+expect frmHard.cmbClock(1).Visible False
+expect frmHard.lblClock(1).Caption 24MHz
+dblclick frmHard.picClock(1)
+key frmHard.cmbClock(1) 40
+key frmHard.cmbClock(1) 27
+expect frmHard.cmbClock(1).Visible False
+expect frmHard.lblClock(1).Caption 24MHz
