@@ -395,6 +395,20 @@ TEST_F(GalleryTest, ScreenReadersSeeThePaintedControlsByName) {
   EXPECT_FALSE(box->isValid());
 }
 
+TEST_F(GalleryTest, WhatChangedWhileHiddenIsThereWhenShownAndIsFollowedFromThen) {
+  frmGallery->hide();
+  frmGallery->txtA.Text = "1111";
+  settle();
+  frmGallery->show();
+  settle();
+  EXPECT_EQ(widgetOf<QLineEdit>(frmGallery->txtA).text(), "1111");
+  frmGallery->txtA.Text = "2222";
+  settle();
+  EXPECT_EQ(widgetOf<QLineEdit>(frmGallery->txtA).text(), "2222");
+  frmGallery->shpA.BackColor = 0xFF0000;
+  EXPECT_EQ(shownAt(1950, 270), QColor(0, 0, 255));
+}
+
 TEST_F(GalleryTest, TheFrameHoldsItsToolBarAtEveryWidth) {
   frmMDI->show();
   settle();

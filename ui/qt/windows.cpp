@@ -159,7 +159,8 @@ void Windows::formShown(Form& form) {
   place(form, shown);
   shown.canvas->show();
   shown.window->show();
-  schedule();
+  // What changed while it was hidden has been left marked, and what is marked is not told of again.
+  markChanged(changed_, form);
 }
 
 void Windows::formHidden(Form& form) {
