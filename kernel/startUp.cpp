@@ -81,9 +81,9 @@ void loadWindows() {
 
 void placeWindows() {
   frmRegister->move(6800, 1100);
-  frmDumpCDIO->move(12000, 0);
-  frmDumpC17->move(10500, 1300);
-  frmDumpDRC->move(7600, 10000);
+  for (FrmDump* window : std::initializer_list<FrmDump*>{frmDumpCDIO.get(), frmDumpC17.get(), frmDumpDRC.get()}) {
+    window->move(window->area().left, window->area().top);
+  }
 }
 
 void showProcessMessage(std::string_view text) {

@@ -2,10 +2,10 @@
 
 #include <algorithm>
 #include <cmath>
-#include <cstdlib>
 #include <string>
 
 #include "kernel/beep.h"
+#include "kernel/tagCountdown.h"
 #include "learning/frmDialog.h"
 #include "learning/frmMessage.h"
 #include "shell/frmMDI.h"
@@ -20,13 +20,9 @@ constexpr double kTx = kTwipsPerPixel;
 constexpr double kTy = kTwipsPerPixel;
 
 void timErase_Timer() {
-  int seconds = std::atoi(frmMessage->Tag.get().c_str());
-  if (seconds <= 0) return;
-  if (seconds == 1) {
-    frmMessage->timErase.Enabled = false;
-    frmMessage->hide();
-  }
-  frmMessage->Tag = std::to_string(seconds - 1);
+  if (!countDown(frmMessage->Tag)) return;
+  frmMessage->timErase.Enabled = false;
+  frmMessage->hide();
 }
 
 /// x and y in pixels of the screen.

@@ -1,11 +1,11 @@
 #include "monitor/frmDumpWindow.h"
 
-#include <cstdlib>
 #include <string>
 
 #include "kernel/cellAddress.h"
 #include "kernel/hexText.h"
 #include "kernel/state.h"
+#include "kernel/tagCountdown.h"
 #include "learning/messages.h"
 #include "monitor/frmDumpSel.h"
 #include "monitor/mduAPI.h"
@@ -97,12 +97,7 @@ void pointNowhere(FrmDump& form) {
 
 void timColor_Timer(FrmDump& form) {
   for (Label& cell : form.lblData) {
-    if (cell.Tag == "") continue;
-    int seconds = std::atoi(cell.Tag.get().c_str());
-    if (seconds <= 0) continue;
-    --seconds;
-    cell.Tag = std::to_string(seconds);
-    if (seconds != 0) continue;
+    if (!countDown(cell.Tag)) continue;
     cell.ForeColor = kBlack;
     form.lblASC(cell.index()).ForeColor = kBlack;  // whose own Tag counts nothing
   }

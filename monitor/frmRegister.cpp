@@ -1,7 +1,6 @@
 #include "monitor/frmRegister.h"
 
 #include <array>
-#include <cstdlib>
 #include <string>
 #include <string_view>
 
@@ -9,6 +8,7 @@
 #include "chip/registerWrite.h"
 #include "kernel/hexText.h"
 #include "kernel/state.h"
+#include "kernel/tagCountdown.h"
 #include "kernel/windowRefresh.h"
 #include "learning/frmMessage.h"
 #include "learning/messages.h"
@@ -63,14 +63,9 @@ void showChanged(Label& value, Label& binary) {
 }
 
 void fade(Label& value, Label& binary) {
-  int seconds = std::atoi(value.Tag.get().c_str());
-  if (seconds <= 0) return;
-  --seconds;
-  if (seconds == 0) {
-    value.ForeColor = kBlack;
-    binary.ForeColor = kBlack;
-  }
-  value.Tag = std::to_string(seconds);
+  if (!countDown(value.Tag)) return;
+  value.ForeColor = kBlack;
+  binary.ForeColor = kBlack;
 }
 
 void timRegister_Timer() {
