@@ -7,10 +7,10 @@
 #include <cstdint>
 #include <cstdio>
 #include <filesystem>
-#include <fstream>
 #include <optional>
 
 #include "kernel/state.h"
+#include "ui/textFile.h"
 
 namespace zelvs {
 
@@ -20,18 +20,6 @@ namespace {
 
 constexpr std::size_t kLongestValue = 255;
 constexpr std::string_view kByteOrderMark = "\xEF\xBB\xBF";
-
-std::string readWhole(const std::string& path) {
-  // Anything but a plain file (a folder, a pipe that nobody writes to) counts as no file.
-  std::error_code error;
-  if (!fs::is_regular_file(path, error)) return {};
-  std::ifstream file(path, std::ios::binary);
-  std::string text;
-  text.resize(static_cast<std::size_t>(fs::file_size(path, error)));
-  file.read(text.data(), static_cast<std::streamsize>(text.size()));
-  text.resize(static_cast<std::size_t>(std::max<std::streamsize>(file.gcount(), 0)));
-  return text;
-}
 
 std::string_view trimmed(std::string_view text) {
   const auto blank = [](char c) { return c == ' ' || c == '\t' || c == '\r'; };
@@ -100,7 +88,7 @@ std::string plainNumber(double number) {
 
 }  // namespace
 
-Profile::Profile(const std::string& path) : text_(readWhole(path)) {}
+Profile::Profile(const std::string& path) : text_(readFile(path).value_or(std::string())) {}
 
 std::vector<std::optional<std::string>> Profile::values(std::string_view section,
                                                         const std::vector<std::string_view>& keys) const {
@@ -214,7 +202,7 @@ void writeIniValue(std::string_view section, std::string_view key, std::string_v
   if (!writable(path)) return;
   fs::path fresh = path;
   fresh += ".new";
-  if (writeWhole(fresh, withValue(readWhole(path.string()), section, key, value))) {
+  if (writeWhole(fresh, withValue(readFile(path.string()).value_or(std::string()), section, key, value))) {
     const fs::file_status old = fs::status(path, error);
     if (fs::exists(old)) fs::permissions(fresh, old.permissions(), error);
     fs::rename(fresh, path, error);

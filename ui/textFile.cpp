@@ -1,0 +1,37 @@
+#include "ui/textFile.h"
+
+#include <algorithm>
+#include <filesystem>
+#include <fstream>
+
+#include "ui/codePage932.h"
+
+namespace zelvs {
+
+std::optional<std::string> readFile(const std::string& path) {
+  std::error_code error;
+  if (!std::filesystem::is_regular_file(path, error)) return std::nullopt;
+  std::ifstream file(path, std::ios::binary);
+  if (!file) return std::nullopt;
+  std::string bytes;
+  bytes.resize(static_cast<std::size_t>(std::filesystem::file_size(path, error)));
+  file.read(bytes.data(), static_cast<std::streamsize>(bytes.size()));
+  bytes.resize(static_cast<std::size_t>(std::max<std::streamsize>(file.gcount(), 0)));
+  return bytes;
+}
+
+std::optional<std::vector<std::string>> readTextFile(const std::string& path) {
+  const std::optional<std::string> bytes = readFile(path);
+  if (!bytes) return std::nullopt;
+  const std::string text = utf8FromCodePage932(*bytes);
+  std::vector<std::string> lines;
+  for (std::size_t at = 0; at < text.size();) {
+    const std::size_t end = std::min(text.find('\n', at), text.size());
+    const bool carriageReturn = end < text.size() && end > at && text[end - 1] == '\r';
+    lines.push_back(text.substr(at, end - at - (carriageReturn ? 1 : 0)));
+    at = end + 1;
+  }
+  return lines;
+}
+
+}  // namespace zelvs

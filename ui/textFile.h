@@ -1,0 +1,18 @@
+#pragma once
+
+#include <optional>
+#include <string>
+#include <vector>
+
+namespace zelvs {
+
+/// The bytes of a plain file; nothing when there is none or it cannot be opened. Anything else that bears the name (a
+/// folder, a pipe that nobody writes to) counts as none.
+std::optional<std::string> readFile(const std::string& path);
+
+/// The lines of a file in code page 932 as text, without their line ends: CR LF or LF alone, which the last line need
+/// not have. Nothing as above. The text is whole before anybody looks for a mark in it: the second byte of a character
+/// may be the byte of a mark.
+std::optional<std::vector<std::string>> readTextFile(const std::string& path);
+
+}  // namespace zelvs
