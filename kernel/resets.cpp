@@ -51,6 +51,14 @@ void randomizeChipMemory() {
   }
 }
 
+void prepareChipMemory() {
+  if (memoryClear != 0) {
+    clearChipMemory();
+  } else {
+    randomizeChipMemory();
+  }
+}
+
 void resetSimulationState() {
   zero(intLinePictureShown, intLinePicture, chk1LedTimer, chk2LedTimer, monLedTimer);
   zero(diChangedThisCycle, serialRoseThisCycle, errorThisCycle, c1CountedThisCycle, c2CountedThisCycle);

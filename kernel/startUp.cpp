@@ -6,6 +6,7 @@
 #include "kernel/beep.h"
 #include "kernel/resets.h"
 #include "kernel/state.h"
+#include "learning/frmHint.h"
 #include "monitor/frmDumpC17.h"
 #include "monitor/frmDumpCDIO.h"
 #include "monitor/frmDumpDRC.h"
@@ -21,18 +22,16 @@
 
 namespace zelvs {
 
-namespace {
-
-/// The scan that runs after a start, whatever stations the boards are set to.
-constexpr std::uint8_t kFirstFinalStation = 5;
-
-void showAtOnce(Form& form, Form* owner = nullptr) {
+void showAtOnce(Form& form, Form* owner) {
   form.show(ShowMode::Modeless, owner);
   form.repaint();
   yieldToEvents();
 }
 
-}  // namespace
+void startFirstScan() {
+  constexpr std::uint8_t kFirstFinalStation = 5;
+  chipMemory[kScrLow] = kFirstFinalStation;
+}
 
 void startUp() {
   const Desk::Event event;
@@ -50,7 +49,7 @@ void startUp() {
   startupDone = kTrue;
   resetCenterRegisters();
   // Until here the registers were all 0, so that ticks during the loading found no scan to run.
-  chipMemory[kScrLow] = kFirstFinalStation;
+  startFirstScan();
   frmVersion->hideVersion();
 }
 
@@ -68,19 +67,18 @@ void loadWindows() {
     window->load();
   }
   showProcessMessage("メモリ処理中です。");
-  if (memoryClear != 0) {
-    clearChipMemory();
-  } else {
-    randomizeChipMemory();
-  }
+  prepareChipMemory();
   resetSimulationState();
   placeWindows();
   openDumpWindowsOfSettings();
   showProcessMessage("レジスタヒントウィンドウロード中です。");
+  frmHint.load();
+  if (openWindow[2] != 0) showAtOnce(*frmHint);
 }
 
 void placeWindows() {
   frmRegister->move(6800, 1100);
+  frmHint->move(12600, 6700);
   for (FrmDump* window : std::initializer_list<FrmDump*>{frmDumpCDIO.get(), frmDumpC17.get(), frmDumpDRC.get()}) {
     window->move(window->area().left, window->area().top);
   }

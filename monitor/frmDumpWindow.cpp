@@ -6,6 +6,7 @@
 #include "kernel/hexText.h"
 #include "kernel/state.h"
 #include "kernel/tagCountdown.h"
+#include "learning/frmHint.h"
 #include "learning/messages.h"
 #include "monitor/frmDumpSel.h"
 #include "monitor/mduAPI.h"
@@ -47,8 +48,9 @@ struct Protection {
   bool highBytesOnly;  // on an 8-bit bus, the even cells
   std::string_view message;
 };
+constexpr int kLastControlCell = 127;
 constexpr std::array<Protection, 3> kProtections = {{
-    {kCDIO, 0, 127, true, "スキャン中、コントロールワードの上位バイトはライトプロテクト"},
+    {kCDIO, 0, kLastControlCell, true, "スキャン中、コントロールワードの上位バイトはライトプロテクト"},
     {kCDIO, 256, 383, false, "スキャン中はライトプロテクト"},
     {kC17, 0, 895, false, "スキャン中はライトプロテクト"},
 }};
@@ -76,6 +78,7 @@ void lblData_DblClick(FrmDump& form, int cell) {
     showMessage(rule->message);
     return;
   }
+  if (form.window() == kCDIO && cell <= kLastControlCell) selectControlWordHint();
   openEditorAt(form, form.Picture1, form.lblData(cell));
 }
 

@@ -10,6 +10,7 @@
 #include "kernel/state.h"
 #include "kernel/tagCountdown.h"
 #include "kernel/windowRefresh.h"
+#include "learning/frmHint.h"
 #include "learning/frmMessage.h"
 #include "learning/messages.h"
 #include "shell/frmMDI.h"
@@ -134,6 +135,7 @@ void openRegisterEditor(FrmRegister& form, std::string_view name, int row, int c
     showMessage(kRegisterProtected);
     return;
   }
+  selectHintTab(name);
   FrmEditRegister& dialog = *frmEditRegister;
   const double caption = platform().captionHeight();
   const double cellBottom = form.lblValH(row).Top + 2 * form.lblValH(row).Height;

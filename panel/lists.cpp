@@ -17,6 +17,7 @@
 #include "panel/frmHard.h"
 #include "panel/panelSetup.h"
 #include "panel/pinModes.h"
+#include "panel/settingLists.h"
 #include "shell/frmMDI.h"
 #include "ui/desk.h"
 #include "ui/gesture.h"
@@ -25,14 +26,8 @@ namespace zelvs {
 
 namespace {
 
-constexpr std::array<std::string_view, 4> kCpuTypes = {"16bit-Bus Little", " 8bit-Bus Little", "16bit-Bus  Big  ",
-                                                       " 8bit-Bus  Big  "};
-constexpr std::array<std::string_view, 3> kClocks = {"48MHz", "24MHz", "12MHz"};
 // The center's own list is never opened; its odd spellings stay.
 constexpr std::array<std::string_view, 3> kCenterClocks = {"48Mhz", "24MHz", "12Mhz"};
-constexpr std::array<std::string_view, 4> kCounterModes = {"0 フリーカウント", "1 内部ゲート1", "2 内部ゲート2",
-                                                           "3 外部ゲート"};
-constexpr int kStations = 63;
 
 // Images of ilsMouse.
 constexpr int kClickPointer = 1;
@@ -123,13 +118,6 @@ void closesOnPick(ComboBox& list) {
   };
 }
 
-template <class List, class Texts>
-void fill(List& list, const Texts& texts) {
-  list.clear();
-  for (const std::string_view text : texts)
-    list.addItem(text);
-}
-
 void picBPSS_DblClick() {
   PictureBox& input = frmHard->picBPSS;
   const bool high = !(input.Tag == "1");
@@ -143,20 +131,11 @@ void picBPSS_DblClick() {
   }
 }
 
-/// Selects a list's row from a setting. What the setting cannot select ends the program with its name and value.
-void selectSetting(ComboBox& list, std::string_view key, int value) {
-  if (value < 0 || value >= list.ListCount()) {
-    runTimeError(iniFilePath + ": " + std::string(key) + "=" + std::to_string(value) + " is no position of the list " +
-                 list.fullName() + ", which has the positions 0 to " + std::to_string(list.ListCount() - 1));
-  }
-  list.ListIndex = value;
-}
-
 }  // namespace
 
 void attachLists(FrmHard& panel) {
   for (ComboBox& list : panel.cmbClock) {
-    fill(list, list.index() == 0 ? kCenterClocks : kClocks);
+    fillList(list, list.index() == 0 ? kCenterClocks : kClocks);
     closesOnPick(list);
   }
   for (Label& label : panel.lblClock)
@@ -219,25 +198,20 @@ void attachLists(FrmHard& panel) {
 }
 
 void initSACombo() {
-  for (ComboBox& list : frmHard->cmbSA) {
-    list.clear();
-    for (unsigned station = 1; station <= kStations; ++station)
-      list.addItem("0x" + hexText(station, 2));
-  }
+  for (ComboBox& list : frmHard->cmbSA)
+    fillStations(list);
 }
 
 void initCPUCombo() {
-  fill(frmHard->cmbCPUType, kCpuTypes);
+  fillList(frmHard->cmbCPUType, kCpuTypes);
 }
 
 void initIOSCombo() {
-  frmHard->cmbIOS.clear();
-  for (const IoMode& mode : kIoModes)
-    frmHard->cmbIOS.addItem(mode.text);
+  fillIoModes(frmHard->cmbIOS);
 }
 
 void initModeCombo() {
-  fill(frmHard->cmbMode, kCounterModes);
+  fillList(frmHard->cmbMode, kCounterModes);
 }
 
 void FrmHard::initCombo() {

@@ -4,8 +4,10 @@
 #include "kernel/simulation.h"
 #include "kernel/state.h"
 #include "kernel/tick.h"
+#include "learning/frmHint.h"
 #include "monitor/frmDumpSel.h"
 #include "monitor/frmRegister.h"
+#include "shell/frmDefault.h"
 #include "shell/frmVersion.h"
 #include "ui/desk.h"
 #include "ui/platform.h"
@@ -55,6 +57,21 @@ void lblVersion_Click() {
   frmVersion->show();
   frmVersion->repaint();
   yieldToEvents();
+}
+
+void lblRegisterHint_Click() {
+  hideDumpSel();
+  if (frmHint.visible()) {
+    frmHint->setFocus();
+  } else {
+    frmHint->show();
+  }
+}
+
+void lblDefault_Click() {
+  hideDumpSel();
+  frmDefault->move(4700, 4000);
+  frmDefault->show();
 }
 
 void lblNagigator_DblClick() {
@@ -111,8 +128,8 @@ FrmMDI::FrmMDI() : Form("frmMDI", kKind, Border::Sizable) {
   lblRunMode.on(&Control::onMouseMove, moveOverRunMode);
   lblMemoryWindow.onClick = lblMemoryWindow_Click;
   lblRegisterWindow.onClick = lblRegisterWindow_Click;
-  lblRegisterHint.onClick = hideDumpSel;
-  lblDefault.onClick = hideDumpSel;
+  lblRegisterHint.onClick = lblRegisterHint_Click;
+  lblDefault.onClick = lblDefault_Click;
   lblNagigator.onDblClick = lblNagigator_DblClick;
   lblVersion.onClick = lblVersion_Click;
   timTick.onTimer = timTick_Timer;

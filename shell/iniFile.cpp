@@ -130,7 +130,7 @@ double leadingNumber(std::string_view text) {
   return negative && number != 0 ? -number : number;
 }
 
-short wholeNumber16(double number) {
+std::int16_t wholeNumber16(double number) {
   constexpr double kRange = 65536;
   const double whole = std::fmod(std::nearbyint(number), kRange);
   return static_cast<std::int16_t>(static_cast<std::int64_t>(whole));
@@ -191,36 +191,34 @@ std::string getIniValue(std::string_view section, std::string_view key, std::str
   return numberText(Profile(iniFilePath).values(section, {key})[0].value_or(std::string(fallback)));
 }
 
-void writeIniValue(std::string_view section, std::string_view key, std::string_view value) {
+void writeIniValues(std::string_view section, const std::vector<IniValue>& values) {
   std::error_code error;
   fs::path path = iniFilePath;
   if (fs::is_symlink(path, error)) {
     path = fs::canonical(path, error);
     if (error) return;
   }
-  // From here on a missing file is no error: the first value written makes it.
-  if (!writable(path)) return;
+  // A missing file is no error: the first value written makes it. One that cannot be read would lose its lines.
+  const std::optional<std::string> old = readFile(path.string());
+  if (!writable(path) || (!old && fs::exists(path, error))) return;
+  std::string text = old.value_or(std::string());
+  for (const auto& [key, value] : values)
+    text = withValue(text, section, key, value);
   fs::path fresh = path;
   fresh += ".new";
-  if (writeWhole(fresh, withValue(readFile(path.string()).value_or(std::string()), section, key, value))) {
-    const fs::file_status old = fs::status(path, error);
-    if (fs::exists(old)) fs::permissions(fresh, old.permissions(), error);
+  if (writeWhole(fresh, text)) {
+    if (old) fs::permissions(fresh, fs::status(path, error).permissions(), error);
     fs::rename(fresh, path, error);
     if (!error) return;
   }
   fs::remove(fresh, error);
 }
 
-namespace {
+void writeIniValue(std::string_view section, std::string_view key, std::string_view value) {
+  writeIniValues(section, {{key, std::string(value)}});
+}
 
-struct Setting {
-  std::string_view key;
-  std::int16_t* variable;
-  std::int16_t makerValue;
-};
-
-/// In the order of reading.
-const std::array<Setting, 20>& settings() {
+std::span<const Setting> settings() {
   static const std::array<Setting, 20> table = {{
       {"CABLECONNECTION", &cableConnection, 1},
       {"MEMORYCLEAR", &memoryClear, 1},
@@ -249,8 +247,6 @@ const std::array<Setting, 20>& settings() {
 void copyTransferSetting() {
   std::fill(transferSetting.begin() + 1, transferSetting.end(), transferSetting[0]);
 }
-
-}  // namespace
 
 void readIniFile() {
   iniFilePath = programFolder + "/ZELVS.INI";

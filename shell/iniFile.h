@@ -1,6 +1,8 @@
 #pragma once
 
+#include <cstdint>
 #include <optional>
+#include <span>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -29,14 +31,31 @@ class Profile {
 /// text when the value is missing or empty.
 std::string getIniValue(std::string_view section, std::string_view key, std::string_view fallback);
 
-/// Writes one key into iniFilePath and keeps every other line. The new file takes the place of the old one only when
-/// it is whole; a file or folder that cannot be written leaves everything as it was, without a word.
+struct IniValue {
+  std::string_view key;
+  std::string value;
+};
+/// Writes keys into iniFilePath, in their order where they are new, and keeps every other line. The new file takes the
+/// place of the old one only when it is whole: a disk that fills up, a file or a folder that cannot be written leave
+/// everything as it was, without a word.
+void writeIniValues(std::string_view section, const std::vector<IniValue>& values);
 void writeIniValue(std::string_view section, std::string_view key, std::string_view value);
 
 /// The number that a text begins with: blanks, a sign, digits, a fraction. 0 when there is none.
 double leadingNumber(std::string_view text);
 /// Rounded to a whole number, halves to even, of which the low 16 bits count: 65535 is -1.
-short wholeNumber16(double number);
+std::int16_t wholeNumber16(double number);
+
+/// One key of the section of settings. makerValue is what the maker recommends.
+struct Setting {
+  std::string_view key;
+  std::int16_t* variable;
+  std::int16_t makerValue;
+};
+/// All settings, in the order of reading. transferSetting has copies of its first entry behind it.
+std::span<const Setting> settings();
+/// Carries transferSetting[0] over to its copies.
+void copyTransferSetting();
 
 /// Builds iniFilePath and fills all settings from the file. What is missing reads as 0.
 void readIniFile();

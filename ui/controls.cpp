@@ -133,7 +133,10 @@ void TabStrip::setTabCaption(int position, std::string_view caption) {
 void TabStrip::propertyChanged(const void* property) {
   if (property == &Tabs) {
     if (Tabs < 1) runTimeError(fullName() + " cannot have " + std::to_string(Tabs.get()) + " tabs");
-    captions_.resize(static_cast<std::size_t>(Tabs.get()));
+    const auto tabs = static_cast<std::size_t>(Tabs.get());
+    while (captions_.size() < tabs)
+      captions_.push_back("Tab " + std::to_string(captions_.size()));
+    captions_.resize(tabs);
     Tab = std::min<int>(Tab, Tabs - 1);
   }
   if (property == &Tab) TabCaption(Tab);

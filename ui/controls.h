@@ -186,7 +186,8 @@ class ListBox : public ListControl {
   ListBox(Form* form, std::string_view name, int index = -1) : ListControl(form, name, index, ControlKind::ListBox) {}
 };
 
-/// Tabs by position from 0. Turning to another tab, by hand or by code, fires Click.
+/// Tabs by position from 0, each called "Tab N" until it gets another caption. Turning to another tab, by hand or by
+/// code, fires Click.
 class TabStrip : public Control {
  public:
   TabStrip(Form* form, std::string_view name, int index = -1) : Control(form, name, index, ControlKind::TabStrip) {}
@@ -201,7 +202,7 @@ class TabStrip : public Control {
   void propertyChanged(const void* property) override;
 
  private:
-  std::vector<std::string> captions_ = {std::string()};
+  std::vector<std::string> captions_ = {"Tab 0"};
 };
 
 /// A wave sound device: DeviceType "WaveAudio", FileName, and the commands "Open", "Prev" and "Play".

@@ -6,6 +6,7 @@
 #include <filesystem>
 #include <fstream>
 #include <map>
+#include <optional>
 
 #include "ui/runTimeError.h"
 
@@ -42,13 +43,19 @@ std::int32_t littleEndian32(const unsigned char* bytes) {
                                    static_cast<std::uint32_t>(bytes[3]) << 24);
 }
 
-PictureFile readBitmapHead(const std::string& path) {
+/// What a file turned out to be: a picture, or the reason why it is none.
+struct Opened {
+  std::optional<PictureFile> picture;
+  std::string refusal;
+};
+
+Opened readBitmapHead(const std::string& path) {
   // Only a plain file is opened: a pipe that nobody writes to would be waited for without end.
   std::error_code error;
-  if (!std::filesystem::exists(path, error)) runTimeError("picture file not found: " + path);
-  if (!std::filesystem::is_regular_file(path, error)) runTimeError("not a bitmap picture: " + path);
+  const bool there = std::filesystem::exists(path, error);
+  if (there && !std::filesystem::is_regular_file(path, error)) return {{}, "not a bitmap picture: " + path};
   std::ifstream file(path, std::ios::binary);
-  if (!file) runTimeError("picture file not found: " + path);
+  if (!there || !file) return {{}, "picture file not found: " + path};
   std::array<unsigned char, 26> head{};
   file.read(reinterpret_cast<char*>(head.data()), head.size());
   const bool bitmap = file.gcount() == static_cast<std::streamsize>(head.size()) && head[0] == 'B' && head[1] == 'M';
@@ -57,20 +64,39 @@ PictureFile readBitmapHead(const std::string& path) {
   const std::int32_t width = littleEndian32(&head[18]);
   const std::int32_t height = littleEndian32(&head[22]);
   if (!bitmap || width < 1 || width > kLargestSide || height == 0 || height < -kLargestSide || height > kLargestSide) {
-    runTimeError("not a bitmap picture: " + path);
+    return {{}, "not a bitmap picture: " + path};
   }
   const auto slash = path.find_last_of("/\\");
-  return PictureFile{path, slash == std::string::npos ? path : path.substr(slash + 1), width, std::abs(height)};
+  return {PictureFile{path, slash == std::string::npos ? path : path.substr(slash + 1), width, std::abs(height)}, {}};
+}
+
+/// Pictures are kept for the whole run: a schematic that is looked at again costs no second reading.
+Picture findPicture(const std::string& path, std::string& refusal) {
+  static std::map<std::string, PictureFile> known;
+  auto found = known.find(path);
+  if (found == known.end()) {
+    Opened opened = readBitmapHead(path);
+    if (!opened.picture) {
+      refusal = std::move(opened.refusal);
+      return {};
+    }
+    found = known.emplace(path, std::move(*opened.picture)).first;
+  }
+  return Picture{nullptr, 0, &found->second};
 }
 
 }  // namespace
 
 Picture loadPicture(const std::string& path) {
-  // Pictures are kept for the whole run: a schematic that is looked at again costs no second reading.
-  static std::map<std::string, PictureFile> known;
-  auto found = known.find(path);
-  if (found == known.end()) found = known.emplace(path, readBitmapHead(path)).first;
-  return Picture{nullptr, 0, &found->second};
+  std::string refusal;
+  const Picture picture = findPicture(path, refusal);
+  if (picture.none()) runTimeError(refusal);
+  return picture;
+}
+
+Picture loadPictureIfThere(const std::string& path) {
+  std::string refusal;
+  return findPicture(path, refusal);
 }
 
 }  // namespace zelvs

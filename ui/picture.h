@@ -52,5 +52,7 @@ class ImageList {
 
 /// Opens a Windows bitmap file. A file that is missing or is no bitmap is a run-time error that names the file.
 Picture loadPicture(const std::string& path);
+/// The same, but such a file gives no picture.
+Picture loadPictureIfThere(const std::string& path);
 
 }  // namespace zelvs

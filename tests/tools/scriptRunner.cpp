@@ -143,7 +143,8 @@ TEST_F(ScriptRunnerTest, LookingAtValues) {
 
 TEST_F(ScriptRunnerTest, FormsAreListedFrontToBack) {
   const std::string children =
-      "frmHard visible active\nfrmDumpCDIO visible\nfrmDumpC17 hidden\nfrmDumpDRC hidden\nfrmMDI visible\n";
+      "frmHard visible active\nfrmHint visible\nfrmDumpCDIO visible\nfrmDumpC17 hidden\nfrmDumpDRC hidden\nfrmMDI "
+      "visible\n";
   EXPECT_EQ(run("activate frmHard\nforms"), "frmRegister visible\n" + children);
   EXPECT_EQ(run("close frmRegister\nforms"), children);
 }
@@ -282,21 +283,22 @@ TEST_F(ScriptRunnerTest, TheConfirmedExitEndsTheScript) {
 
 TEST_F(ScriptRunnerTest, WhileAModalWindowIsOpenTheScriptGoesOnInside) {
   // Two boards on one station: the panel warns.
-  EXPECT_EQ(run("dblclick frmHard.picSA(0)\n"
-                "select frmHard.cmbSA(0) 4\n"
-                "expect frmDialog.Visible True\n"
-                "forms\n"
-                "click frmMDI.lblRunMode(1)\n"
-                "expect error\n"
-                "expect beeps 1\n"
-                "click frmDialog.cmdAction(0)\n"
-                "expect frmDialog.dialogResult 1\n"
-                "expect frmDialog.Visible False\n"),
-            "ok\n"
-            "frmDialog visible modal active\nfrmRegister visible\nfrmHard visible\nfrmDumpCDIO visible\n"
-            "frmDumpC17 hidden\nfrmDumpDRC hidden\nfrmMDI visible\n"
-            "error: frmDialog is modal\n"
-            "ok\nok\nok\nok\n");
+  EXPECT_EQ(
+      run("dblclick frmHard.picSA(0)\n"
+          "select frmHard.cmbSA(0) 4\n"
+          "expect frmDialog.Visible True\n"
+          "forms\n"
+          "click frmMDI.lblRunMode(1)\n"
+          "expect error\n"
+          "expect beeps 1\n"
+          "click frmDialog.cmdAction(0)\n"
+          "expect frmDialog.dialogResult 1\n"
+          "expect frmDialog.Visible False\n"),
+      "ok\n"
+      "frmDialog visible modal active\nfrmRegister visible\nfrmHard visible\nfrmHint visible\nfrmDumpCDIO visible\n"
+      "frmDumpC17 hidden\nfrmDumpDRC hidden\nfrmMDI visible\n"
+      "error: frmDialog is modal\n"
+      "ok\nok\nok\nok\n");
   EXPECT_EQ(status, 0);
 }
 

@@ -141,7 +141,8 @@ TEST_F(ChoicesTest, TabsTurnByHandAndByCode) {
   EXPECT_EQ(tabs.Tabs, 1);
   tabs.Tabs = 3;
   tabs.setTabCaption(2, "INT0R/INT1R");
-  EXPECT_EQ(tabs.TabCaption(0), "");
+  EXPECT_EQ(tabs.TabCaption(0), "Tab 0");
+  EXPECT_EQ(tabs.TabCaption(1), "Tab 1");
   EXPECT_EQ(tabs.TabCaption(2), "INT0R/INT1R");
   EXPECT_EQ(clicks, 0);
   tabs.Tab = 1;

@@ -159,7 +159,7 @@ TEST_F(InspectTest, RowsAndTabsAreLookedAtByPosition) {
     EXPECT_EQ(look(*list, "List"), "nothing");
     EXPECT_EQ(look(*list, "TabCaption", 0), "nothing");
   }
-  EXPECT_EQ(look(form.tabPages, "TabCaption", 0), "\"\"");
+  EXPECT_EQ(look(form.tabPages, "TabCaption", 0), "\"Tab 0\"");
   EXPECT_EQ(look(form.tabPages, "TabCaption", 1), "\"SCR\"");
   EXPECT_EQ(look(form.tabPages, "TabCaption", 2), "nothing");
   EXPECT_EQ(look(form.tabPages, "TabCaption", -1), "nothing");

@@ -1,0 +1,56 @@
+#include "shell/restart.h"
+
+#include <initializer_list>
+
+#include "kernel/beep.h"
+#include "kernel/resets.h"
+#include "kernel/startUp.h"
+#include "kernel/state.h"
+#include "learning/frmHint.h"
+#include "learning/frmKAIROZU.h"
+#include "monitor/frmDumpC17.h"
+#include "monitor/frmDumpCDIO.h"
+#include "monitor/frmDumpDRC.h"
+#include "monitor/frmRegister.h"
+#include "monitor/mduMemoryWindow.h"
+#include "panel/frmHard.h"
+#include "shell/frmDefault.h"
+#include "shell/frmMDI.h"
+#include "ui/desk.h"
+
+namespace zelvs {
+
+void restartSimulator() {
+  const Desk::Event event;
+  runMode = kRestarting;  // no tick does anything until RUN is selected again
+  startupDone = kFalse;
+  for (FormPlace* window :
+       std::initializer_list<FormPlace*>{&frmHard, &frmRegister, &frmDumpCDIO, &frmDumpC17, &frmDumpDRC}) {
+    if (window->loaded()) window->form()->unload();
+  }
+  for (FormPlace* window : std::initializer_list<FormPlace*>{&frmHint, &frmDefault, &frmKAIROZU}) {
+    if (window->loaded()) window->form()->hide();
+  }
+  prepareChipMemory();
+  resetSimulationState();
+  resetCenterRegisters();
+  startFirstScan();
+  frmHard->move(0, 0);  // loads it, and it takes the settings
+  frmHard->show();
+  frmHard->repaint();
+  placeWindows();
+  frmRegister.load();
+  if (openWindow[1] != 0) {
+    frmRegister->show(ShowMode::Modeless, frmMDI.get());
+    frmRegister->repaint();
+  }
+  openDumpWindowsOfSettings();
+  if (openWindow[2] != 0) showAtOnce(*frmHint);
+  openBeepDevice();  // the panel and its device are new
+  // A scan of the old life does not go on: SCR starts one from the first station. A one-shot scan is not ended here.
+  continuousScanActive = kFalse;
+  frmMDI->lblRunMode_Click(kRun);
+  startupDone = kTrue;
+}
+
+}  // namespace zelvs
