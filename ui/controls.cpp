@@ -40,9 +40,10 @@ void PictureBox::print(std::string_view text) {
 
 void PictureBox::propertyChanged(const void* property) {
   Control::propertyChanged(property);
-  if (AutoSize && (property == &Picture || property == &AutoSize) && Picture.get().file != nullptr) {
-    Width = Picture.get().file->width * kTwipsPerPixel / outerUnit();
-    Height = Picture.get().file->height * kTwipsPerPixel / outerUnit();
+  const PictureFile* file = AutoSize && (property == &Picture || property == &AutoSize) ? fileOf(Picture) : nullptr;
+  if (file != nullptr) {
+    Width = file->width * kTwipsPerPixel / outerUnit();
+    Height = file->height * kTwipsPerPixel / outerUnit();
   }
   if (onResize && (property == &Width || property == &Height)) onResize();
 }

@@ -36,6 +36,10 @@ const PictureFile* ImageList::fileOf(int number) const {
   return position > carried && position <= static_cast<std::size_t>(count_) ? added_[position - carried - 1] : nullptr;
 }
 
+const PictureFile* fileOf(const Picture& picture) {
+  return picture.list != nullptr ? picture.list->fileOf(picture.image) : picture.file;
+}
+
 namespace {
 
 std::int32_t littleEndian32(const unsigned char* bytes) {

@@ -50,6 +50,9 @@ class ImageList {
   std::vector<const PictureFile*> added_;
 };
 
+/// The file behind a picture; null for none and for an image that the program carries.
+const PictureFile* fileOf(const Picture& picture);
+
 /// Opens a Windows bitmap file. A file that is missing or is no bitmap is a run-time error that names the file.
 Picture loadPicture(const std::string& path);
 /// The same, but such a file gives no picture.

@@ -6,19 +6,12 @@
 #include "learning/frmOsiro.h"
 #include "monitor/frmDumpSel.h"
 #include "shell/frmMDI.h"
+#include "support/bitmap.h"
 #include "support/program.h"
 #include "ui/gesture.h"
 
 namespace zelvs {
 namespace {
-
-/// The head of a bitmap of that size, which is all that the model reads.
-std::string bitmapOf(int width, int height) {
-  std::string head = "BM" + std::string(24, '\0');
-  head[18] = static_cast<char>(width);
-  head[22] = static_cast<char>(height);
-  return head;
-}
 
 class ViewersTest : public ProgramTest {
  protected:

@@ -39,7 +39,7 @@ QPixmap render(const ImageList& list, int image, QSize pixels) {
 }  // namespace
 
 QPixmap spriteOf(const Picture& picture, QSize size, qreal devicePixelRatio) {
-  const PictureFile* file = picture.list != nullptr ? picture.list->fileOf(picture.image) : picture.file;
+  const PictureFile* file = fileOf(picture);
   const QString source = file != nullptr
                              ? QString::fromStdString(file->path)
                              : QString::fromStdString(picture.list->name()) + ' ' + QString::number(picture.image);
