@@ -2,8 +2,6 @@
 
 #include "shell/restart.h"
 
-#include <malloc.h>
-
 #include <algorithm>
 #include <string>
 #include <vector>
@@ -19,12 +17,9 @@
 #include "shell/frmDefault.h"
 #include "shell/frmMDI.h"
 #include "shell/iniFile.h"
+#include "support/heap.h"
 #include "support/program.h"
 #include "ui/gesture.h"
-
-#if defined(__SANITIZE_ADDRESS__)
-#include <sanitizer/allocator_interface.h>
-#endif
 
 namespace zelvs {
 namespace {
@@ -40,14 +35,6 @@ class RestartTest : public ProgramTest {
     return names;
   }
   static std::vector<FormPlace*> renewed() { return {&frmHard, &frmRegister, &frmDumpCDIO, &frmDumpC17, &frmDumpDRC}; }
-  /// Bytes that the program holds.
-  static std::size_t heap() {
-#if defined(__SANITIZE_ADDRESS__)
-    return __sanitizer_get_current_allocated_bytes();
-#else
-    return mallinfo2().uordblks;
-#endif
-  }
 };
 
 TEST_F(RestartTest, PanelAndMonitorWindowsComeBackAsNewAndTheRestLivesOn) {
@@ -251,7 +238,7 @@ TEST_F(RestartTest, AThousandOfThemLeaveNothingBehind) {
   constexpr int kRestarts = 1000;
   for (int i = 0; i < kWarmUp; ++i)
     live();
-  const std::size_t bytes = heap();
+  const std::size_t bytes = heapBytes();
   const std::size_t forms = desk().forms().size();
   const std::size_t timers = desk().timers.running();
   const auto order = visibleForms();
@@ -260,16 +247,15 @@ TEST_F(RestartTest, AThousandOfThemLeaveNothingBehind) {
   EXPECT_EQ(desk().forms().size(), forms);
   EXPECT_EQ(desk().timers.running(), timers);
   EXPECT_EQ(visibleForms(), order);
-  // Less than one small object a restart. The plain heap counts what it keeps for the next call as taken; the
-  // sanitizers' knows exactly.
+  // Less than one small object a restart. The plain heap is not exact.
 #if defined(__SANITIZE_ADDRESS__)
   constexpr std::size_t kSlack = 1024;
 #else
   constexpr std::size_t kSlack = 32 * kRestarts;
 #endif
-  EXPECT_LT(heap(), bytes + kSlack);
+  EXPECT_LT(heapBytes(), bytes + kSlack);
   RecordProperty("bytesAfterWarmUp", static_cast<int>(bytes));
-  RecordProperty("bytesAtTheEnd", static_cast<int>(heap()));
+  RecordProperty("bytesAtTheEnd", static_cast<int>(heapBytes()));
   platform.advance(100);
   EXPECT_EQ(continuousScanActive, kTrue);
 }
