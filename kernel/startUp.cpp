@@ -7,6 +7,7 @@
 #include "kernel/resets.h"
 #include "kernel/state.h"
 #include "learning/frmHint.h"
+#include "learning/naviIndex.h"
 #include "monitor/frmDumpC17.h"
 #include "monitor/frmDumpCDIO.h"
 #include "monitor/frmDumpDRC.h"
@@ -45,7 +46,7 @@ void startUp() {
   frmVersion->lblProcess(1).Visible = true;
   yieldToEvents();
   loadWindows();
-  showProcessMessage("ナビゲーションウィンドウ設定中です。");
+  readNaviIndex();
   startupDone = kTrue;
   resetCenterRegisters();
   // Until here the registers were all 0, so that ticks during the loading found no scan to run.

@@ -5,6 +5,8 @@
 #include "kernel/state.h"
 #include "kernel/tick.h"
 #include "learning/frmHint.h"
+#include "learning/frmNaviList.h"
+#include "learning/frmNavigation.h"
 #include "monitor/frmDumpSel.h"
 #include "monitor/frmRegister.h"
 #include "shell/frmDefault.h"
@@ -75,9 +77,10 @@ void lblDefault_Click() {
 }
 
 void lblNagigator_DblClick() {
-  // While the splash or the about window is there nothing happens at all.
-  if (frmVersion.visible()) return;
+  // While the splash, the about window or a lesson is there nothing happens at all.
+  if (frmVersion.visible() || frmNavigation.visible()) return;
   hideDumpSel();
+  openNaviList();
 }
 
 }  // namespace

@@ -1,19 +1,24 @@
 #!/bin/sh
-# Runs one script case in a program folder of its own. usage: runCase.sh PROGRAM CASE FOLDER [--desktop]
+# Runs one script case in a program folder of its own. usage: runCase.sh PROGRAM CONVERTER CASE FOLDER [--desktop]
+# CONVERTER is zelvs-text.
 #
 # The case's head may hold lines that shape its folder and what it must end with:
 #   #ini KEY=VALUE    replaces a value of the maker's ZELVS.INI
 #   #no-ini           starts without ZELVS.INI
+#   #lesson FILE TEXT adds a line to a file of NaviData, which then holds nothing else than such lines; "|" is a TAB
+#   #no-lessons       starts without NaviData
 #   #status N         the exit status that is wanted, 0 without the line
 #   #prints TEXT      a line that must be printed, byte for byte
 set -eu
 program=$1
-case=$2
-shipped=$3
-shift 3
+converter=$2
+case=$3
+shipped=$4
+shift 4
 
 folder=$(mktemp -d)
-trap 'rm -rf "$folder"' EXIT
+texts=$(mktemp -d)
+trap 'rm -rf "$folder" "$texts"' EXIT
 cp -R "$shipped/." "$folder"
 rm -f "$folder/zelvs" "$folder/zelvs-script"
 cp "$(dirname "$0")/../assets/ZELVS.INI" "$folder/ZELVS.INI"
@@ -23,6 +28,13 @@ sed -n 's/^#ini //p' "$case" | while IFS='=' read -r key value; do
   sed -i "s/^$key=.*/$key=$value\r/" "$folder/ZELVS.INI"
 done
 if grep -q '^#no-ini' "$case"; then rm "$folder/ZELVS.INI"; fi
+
+if grep -q -e '^#lesson ' -e '^#no-lessons' "$case"; then rm -rf "$folder/NaviData"; fi
+sed -n 's/^#lesson //p' "$case" | while IFS=' ' read -r file text; do
+  mkdir -p "$(dirname "$texts/$file")"
+  printf '%s\n' "$text" | tr '|' '\t' >> "$texts/$file"
+done
+(cd "$texts" && find . -type f) | while read -r file; do "$converter" "$texts/$file" "$folder/NaviData/$file"; done
 
 status=0
 "$program" "$@" --folder "$folder" "$case" > "$folder/output" 2> "$folder/errors" || status=$?
