@@ -1,0 +1,139 @@
+# What the lesson CablesAndErrors.txt lets the user do, page by page, and what it promises.
+# A lesson starts with the maker's values; its restart leaves board 5 in IOS 0, all sixteen pins inputs.
+#ini IOS-QVT50=0
+wait 100
+# 1: one road of three cables, two slaves with the next addresses
+expect frmHard.picBOARD2_RXD(0).Tag 1
+expect frmHard.picBOARD2_RXD(1).Tag 1
+expect frmHard.picBOARD2_RXD(3).Tag 1
+expect frmHard.picBridge(0).Visible True
+expect frmHard.picBridge(1).Visible True
+# 2: control words, all 0
+activate frmDumpCDIO
+expect frmDumpCDIO.lblAdr(0).Caption 00x
+expect peek 0x000 00 00 00 00 00 00 00 00 00 00 00 00
+# 3: the cable from board 1 to board 3 out: both check lamps, for one and a half seconds
+click frmHard.picCableUp(1)
+wait 100
+expect frmHard.picChkLED(0).Picture "ilsLED_R 2"
+expect frmHard.picChkLED(1).Picture "ilsLED_R 2"
+wait 1300
+expect frmHard.picChkLED(0).Picture "ilsLED_R 2"
+wait 200
+expect frmHard.picChkLED(0).Picture "ilsLED_R 1"
+expect frmHard.picChkLED(1).Picture "ilsLED_R 1"
+# 4: the reports of stations 03, 04 and 05, in the columns -7, -9 and -B
+expect peek 0x002 00 00 00 00 00 7C 00 7C 00 7C
+expect frmDumpCDIO.lblOff(8).Caption "-7"
+expect frmDumpCDIO.lblData(8).Caption 7C
+expect frmDumpCDIO.lblData(9).Caption 00
+expect frmDumpCDIO.lblOff(6).Caption "-9"
+expect frmDumpCDIO.lblData(6).Caption 7C
+expect frmDumpCDIO.lblOff(4).Caption "-B"
+expect frmDumpCDIO.lblData(4).Caption 7C
+# 5: both counts
+expect frmRegister.lblReg(6).Caption C1CR
+expect frmRegister.lblValL(6).Caption 03
+expect frmRegister.lblReg(7).Caption C2CR
+expect frmRegister.lblValL(7).Caption 03
+wait 2000
+expect peek 0x58A 03 00 03 00
+# 6: plugged again; the other end does as well
+click frmHard.picCableUp(1)
+wait 100
+expect peek 0x002 00 00 00 00 00 00 00 00 00 00
+expect peek 0x58A 03 00 03 00
+click frmHard.picCableDn(1)
+expect frmHard.picBOARD2_RXD(1).Tag 0
+click frmHard.picCableDn(1)
+expect frmHard.picBOARD2_RXD(1).Tag 1
+wait 100
+expect peek 0x58A 03 00 03 00
+# 7: a 1 in bit 0 clears a count, 0000 does not
+dblclick frmRegister.lblValL(6)
+expect frmEditRegister.txtWriteData.Text 0003
+type frmEditRegister.txtWriteData 0001
+click frmEditRegister.cmdAction(0)
+expect peek 0x58A 00 00 03 00
+dblclick frmRegister.lblValL(7)
+type frmEditRegister.txtWriteData 0000
+click frmEditRegister.cmdAction(0)
+expect peek 0x58C 03
+dblclick frmRegister.lblValL(7)
+type frmEditRegister.txtWriteData 0001
+click frmEditRegister.cmdAction(0)
+expect peek 0x58C 00
+# 8: the failures of station 05, one a round of five times 0.3 seconds
+click frmMDI.lblRunMode(2)
+click frmHard.picCableUp(2)
+wait 1500
+expect frmDumpCDIO.lblData(4).Caption 14
+expect peek 0x58A 01 00 00 00
+wait 1500
+expect frmDumpCDIO.lblData(4).Caption 24
+expect peek 0x58A 01 00 00 00
+wait 1500
+expect frmDumpCDIO.lblData(4).Caption 3C
+# 9: C1CR at the first, C2CR at the third; the report stops at 7C
+expect peek 0x58A 01 00 01 00
+wait 1500
+expect frmDumpCDIO.lblData(4).Caption 4C
+wait 4500
+expect frmDumpCDIO.lblData(4).Caption 7C
+wait 1500
+expect frmDumpCDIO.lblData(4).Caption 7C
+expect peek 0x58A 01 00 01 00
+expect frmHard.picChkLED(0).Picture "ilsLED_R 2"
+click frmHard.picCableUp(2)
+click frmMDI.lblRunMode(0)
+wait 2000
+expect peek 0x00B 00
+expect frmHard.picChkLED(0).Picture "ilsLED_R 1"
+# 10: board 5 moves to address 06, which nobody polls
+expect frmHard.picB1_LED(5).Picture "ilsLED_G 2"
+dblclick frmHard.picSA(5)
+expect frmHard.cmbSA(2).List(5) 0x06
+select frmHard.cmbSA(2) 5
+wait 1000
+expect peek 0x00B 7C
+expect frmHard.picB1_LED(5).Picture "ilsLED_R 1"
+expect frmRegister.lblValL(1).Caption 05
+# 11: the final station follows
+dblclick frmRegister.lblValL(1)
+type frmEditRegister.txtWriteData 0006
+click frmEditRegister.cmdAction(0)
+wait 100
+expect finalStation 6
+expect frmHard.picB1_LED(5).Picture "ilsLED_G 2"
+expect peek 0x00B 7C 00 00
+dblclick frmRegister.lblValL(1)
+type frmEditRegister.txtWriteData 0005
+click frmEditRegister.cmdAction(0)
+wait 100
+dblclick frmHard.picSA(5)
+select frmHard.cmbSA(2) 4
+wait 100
+expect peek 0x000 00 00 00 00 00 00 00 00 00 00 00 00 00 00
+# 12: two boards on one address
+dblclick frmHard.picSA(3)
+select frmHard.cmbSA(1) 0
+expect frmDialog.lblDialogTitle.Caption "   警 告"
+expect frmDialog.cmdAction(0).Caption OK
+click frmDialog.cmdAction(0)
+wait 100
+expect peek 0x002 00 7C 00 7C 00 7C 00 7C 00 00
+# 13: back, and noise: eleven hits in known places, then some on one station in a row
+dblclick frmHard.picSA(3)
+select frmHard.cmbSA(1) 2
+wait 100
+expect peek 0x002 00 00 00 00 00 00 00 00 00 00
+expect peek 0x58A 06 00 06 00
+random 0.005 0.9 0.005 0.9 0.005 0.005 0.9 0.005 0.9 0.005 0.005 0.9 0.005 0.9 0.005 0.9 0.9 0.005 0.9 0.005 0.9 0.9 0.9 0.9 0.9 0.9 0.9 0.9 0.9 0.9
+press frmHard.picNoise
+wait 160
+expect peek 0x58A 0A 00 09 00
+expect frmHard.picChkLED(0).Picture "ilsLED_R 2"
+expect frmHard.picChkLED(1).Picture "ilsLED_R 2"
+release frmHard.picNoise
+wait 100
+expect peek 0x002 00 00 00 00 00 00 00 00 00 00

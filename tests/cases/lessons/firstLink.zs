@@ -1,0 +1,135 @@
+# What the lesson FirstLink.txt lets the user do, page by page, and what it promises.
+# A lesson starts with the maker's values; its restart leaves board 5 in IOS 0, all sixteen pins inputs.
+#ini IOS-QVT50=0
+wait 100
+expect frmRegister.Visible True
+expect frmDumpCDIO.Visible True
+expect cpuType 0
+# 2: five boards answer
+expect frmHard.lblBoardName(0).Caption QVT60
+expect frmHard.lblBoardName(1).Caption QVT40
+expect frmHard.lblBoardName(4).Caption QVT40
+expect frmHard.lblBoardName(5).Caption QVT50
+expect frmHard.lblSatteliteNo(0).Caption Board-1
+expect frmHard.lblSatteliteNo(4).Caption Board-5
+expect frmHard.picBoard(2).Visible True
+expect frmHard.picBoard(4).Visible True
+expect peek 0x000 00 00 00 00 00 00 00 00 00 00 00 00
+# 3: station addresses on the dials; the slaves take the next one
+expect saSetting(0) 1
+expect saSetting(1) 3
+expect saSetting(2) 5
+expect frmHard.picSA(0).Picture "ilsRSW 1"
+expect frmHard.picSA(1).Picture "ilsRSW 2"
+expect frmHard.picSA(3).Picture "ilsRSW 4"
+expect frmHard.picSA(5).Picture "ilsRSW 6"
+# 4: the scan from 01 to 05 runs
+expect frmHard.picScanLed.Picture "ilsLED_G 2"
+expect continuousScanActive -1
+expect finalStation 5
+# 5: STOP holds, SLOW goes round from 81 to 85
+expect frmMDI.lblRunMode(1).Caption STOP
+expect frmMDI.lblRunMode(2).Caption SLOW
+click frmMDI.lblRunMode(1)
+wait 1000
+expect currentStation 1
+click frmMDI.lblRunMode(2)
+wait 300
+expect frmRegister.lblValL(2).Caption 82
+wait 300
+expect frmRegister.lblValL(2).Caption 83
+wait 300
+expect frmRegister.lblValL(2).Caption 84
+wait 300
+expect frmRegister.lblValL(2).Caption 85
+wait 300
+expect frmRegister.lblValL(2).Caption 81
+# 6: 1-Time, a station and a sound a click; then RUN
+expect frmMDI.lblRunMode(3).Caption 1-Time
+click frmMDI.lblRunMode(3)
+expect frmRegister.lblValL(2).Caption 82
+expect beeps 1
+click frmMDI.lblRunMode(3)
+expect frmRegister.lblValL(2).Caption 83
+expect beeps 2
+click frmMDI.lblRunMode(0)
+expect runMode 0
+# 7: the memory window, brought to the front, with its rows of control words, DO and DI
+expect frmDumpCDIO.Caption "Memory dump - Control + DI + DO"
+activate frmDumpCDIO
+expect frmDumpCDIO.lblAdr(0).Caption 00x
+expect frmDumpCDIO.lblAdr(8).Caption 08x
+expect frmDumpCDIO.lblAdr(16).Caption 10x
+expect frmDumpCDIO.piMode 1
+# 8: DI 0 of board 1 in row 10x, columns -3 and ,2
+expect frmDumpCDIO.lblOff(12).Caption "-3"
+expect frmDumpCDIO.lblOff(13).Caption ",2"
+click frmHard.picPI(0)
+expect frmHard.picPI(0).Tag I1
+wait 100
+expect frmDumpCDIO.lblData(268).Caption 00
+expect frmDumpCDIO.lblData(269).Caption 01
+# 9: red for some five seconds; the other switches
+expect frmDumpCDIO.lblData(269).ForeColor 255
+wait 3800
+expect frmDumpCDIO.lblData(269).ForeColor 255
+wait 1200
+expect frmDumpCDIO.lblData(269).ForeColor 0
+click frmHard.picPI(0)
+click frmHard.picPI(1)
+wait 100
+expect frmDumpCDIO.lblData(269).Caption 02
+click frmHard.picPI(2)
+wait 100
+expect frmDumpCDIO.lblData(269).Caption 06
+# 10: pointing; board 5 is station 05, in the columns -B and ,A
+move frmDumpCDIO.lblData(269)
+expect frmDumpCDIO.lblPointAddress.Caption " Pointing Address = 102H ( 258) : 06"
+expect frmDumpCDIO.lblPointSA.Caption " Pointing SA = 01H  ( 1)"
+expect frmHard.picPI(64).Tag I0
+expect frmHard.picPI(79).Tag I0
+click frmHard.picPI(64)
+wait 100
+expect frmDumpCDIO.lblOff(4).Caption "-B"
+expect frmDumpCDIO.lblOff(5).Caption ",A"
+expect frmDumpCDIO.lblData(261).Caption 01
+move frmDumpCDIO.lblData(261)
+expect frmDumpCDIO.lblPointSA.Caption " Pointing SA = 05H  ( 5)"
+# 11: a DO word lights an LED
+dblclick frmDumpCDIO.lblData(141)
+expect frmEditMemory.Caption "Memory Write"
+expect frmEditMemory.cmdAction(0).Caption Write
+type frmEditMemory.txtWriteData 0001
+click frmEditMemory.cmdAction(0)
+wait 100
+expect frmHard.picPO(0).Tag O1
+expect frmHard.picPO(1).Tag O0
+# 12: every other LED, all sixteen; DI is protected
+dblclick frmDumpCDIO.lblData(140)
+type frmEditMemory.txtWriteData 5555
+click frmEditMemory.cmdAction(0)
+wait 100
+expect boardDo(1) 0x5555
+expect frmHard.picPO(14).Tag O1
+expect frmHard.picPO(15).Tag O0
+dblclick frmDumpCDIO.lblData(141)
+type frmEditMemory.txtWriteData FFFF
+click frmEditMemory.cmdAction(0)
+wait 100
+expect frmHard.picPO(0).Tag O1
+expect frmHard.picPO(1).Tag O1
+expect frmHard.picPO(15).Tag O1
+dblclick frmDumpCDIO.lblData(269)
+expect frmMessage.lblMessage.Caption スキャン中はライトプロテクト
+expect frmEditMemory.Visible False
+# 13: CLR, held and let go
+dblpress frmHard.picCLR(0)
+expect frmHard.picPO(0).Tag O0
+expect frmHard.picPO(15).Tag O0
+wait 500
+expect boardDo(1) 0
+expect peek 0x082 FF FF
+release frmHard.picCLR(0)
+wait 100
+expect frmHard.picPO(0).Tag O1
+expect frmHard.picPO(15).Tag O1

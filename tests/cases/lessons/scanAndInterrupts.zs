@@ -1,0 +1,142 @@
+# What the lesson ScanAndInterrupts.txt lets the user do, page by page, and what it promises.
+# A lesson starts with the maker's values; its restart leaves board 5 in IOS 0, all sixteen pins inputs.
+#ini IOS-QVT50=0
+wait 100
+# 1: eight registers
+expect frmRegister.Visible True
+expect frmRegister.lblReg(1).Caption SCR
+expect frmRegister.lblReg(8).Caption BCR
+# 2: 0 in SCR ends the scan behind station 05
+expect frmRegister.lblValL(1).Caption 05
+dblclick frmRegister.lblValL(1)
+expect frmEditRegister.Caption "Register Write"
+expect frmEditRegister.cmdAction(0).Caption Write
+type frmEditRegister.txtWriteData 0000
+click frmEditRegister.cmdAction(0)
+wait 100
+expect frmHard.picScanLed.Picture "ilsLED_G 1"
+expect frmRegister.lblValH(2).Caption 00
+expect frmRegister.lblValL(2).Caption 00
+# 3: no scan, no DI
+click frmHard.picPI(0)
+wait 500
+expect frmHard.picPI(0).Tag I1
+expect frmDumpCDIO.lblData(269).Caption 00
+# 4: one cycle
+dblclick frmRegister.lblValL(1)
+type frmEditRegister.txtWriteData 0500
+click frmEditRegister.cmdAction(0)
+wait 100
+expect frmDumpCDIO.lblAdr(16).Caption 10x
+expect frmDumpCDIO.lblOff(12).Caption "-3"
+expect frmDumpCDIO.lblData(268).Caption 00
+expect frmDumpCDIO.lblData(269).Caption 01
+expect frmRegister.lblValH(1).Caption 00
+expect frmRegister.lblValL(1).Caption 00
+expect frmHard.picScanLed.Picture "ilsLED_G 1"
+# 5: both at once are refused; then the continuous scan again
+dblclick frmRegister.lblValL(1)
+type frmEditRegister.txtWriteData 0505
+click frmEditRegister.cmdAction(0)
+expect frmMessage.lblMessage.Caption 入力された値が不適切であるため、書き込まれません。
+expect peek 0x580 00 00
+dblclick frmRegister.lblValL(1)
+type frmEditRegister.txtWriteData 0005
+click frmEditRegister.cmdAction(0)
+wait 100
+expect frmHard.picScanLed.Picture "ilsLED_G 2"
+# 6: refused registers
+dblclick frmRegister.lblValL(2)
+expect frmMessage.lblMessage.Caption このレジスタはリードオンリーです。
+expect frmEditRegister.Visible False
+dblclick frmRegister.lblValL(8)
+expect frmMessage.lblMessage.Caption スキャン中はライトプロテクト。
+expect frmEditRegister.Visible False
+# 7: the mask lets DI 0 of station 01 through
+expect frmMDI.lblMemoryWindow.Caption "Memory Window"
+click frmMDI.lblMemoryWindow
+expect frmDumpSel.cmdAREA(2).Caption DRC
+click frmDumpSel.cmdAREA(2)
+expect frmDumpDRC.lblAdr(0).Caption 50x
+expect frmDumpDRC.lblOff(12).Caption "-3"
+dblclick frmDumpDRC.lblData(13)
+type frmEditMemory.txtWriteData 0001
+click frmEditMemory.cmdAction(0)
+expect peek 0x500 00 00 01 00 00 00
+# 8: the interrupt
+dblclick frmRegister.lblValL(4)
+type frmEditRegister.txtWriteData 0100
+click frmEditRegister.cmdAction(0)
+wait 100
+expect frmHard.picInt.Visible False
+click frmHard.picPI(0)
+wait 100
+expect frmRegister.lblValH(4).Caption 01
+expect frmRegister.lblValL(4).Caption 01
+expect frmHard.picInt.Visible True
+expect frmHard.picInt.Picture "ilsInt 2"
+# 9: a 1 clears
+dblclick frmRegister.lblValL(4)
+type frmEditRegister.txtWriteData 0101
+click frmEditRegister.cmdAction(0)
+wait 100
+expect peek 0x586 00 01
+expect frmHard.picInt.Visible False
+# 10: DI 1 is masked out
+click frmHard.picPI(1)
+wait 100
+expect frmDumpCDIO.lblData(269).Caption 02
+expect peek 0x586 00 01
+# 11: the halt
+dblclick frmRegister.lblValL(4)
+type frmEditRegister.txtWriteData 0400
+click frmEditRegister.cmdAction(0)
+wait 100
+click frmHard.picPI(0)
+wait 100
+expect frmRegister.lblValH(4).Caption 04
+expect frmRegister.lblValL(4).Caption 04
+expect frmRegister.lblValL(2).Caption 81
+wait 1000
+expect frmRegister.lblValL(2).Caption 81
+expect currentStation 1
+expect frmHard.picScanLed.Picture "ilsLED_G 2"
+expect frmDumpCDIO.lblData(269).Caption 03
+# 12: nothing moves in the halt; then it goes on with what has waited
+click frmHard.picPI(1)
+wait 500
+expect frmDumpCDIO.lblData(269).Caption 03
+dblclick frmRegister.lblValL(4)
+type frmEditRegister.txtWriteData 0404
+click frmEditRegister.cmdAction(0)
+wait 100
+expect peek 0x586 00 04
+expect frmDumpCDIO.lblData(269).Caption 01
+expect peek 0x583 00
+# 13: the end of the scan as an interrupt
+dblclick frmRegister.lblValL(4)
+type frmEditRegister.txtWriteData 8000
+click frmEditRegister.cmdAction(0)
+dblclick frmRegister.lblValL(1)
+type frmEditRegister.txtWriteData 0000
+click frmEditRegister.cmdAction(0)
+wait 100
+expect frmRegister.lblValH(4).Caption 80
+expect frmRegister.lblValL(4).Caption 80
+expect frmHard.picScanLed.Picture "ilsLED_G 1"
+dblclick frmRegister.lblValL(4)
+type frmEditRegister.txtWriteData 8080
+click frmEditRegister.cmdAction(0)
+wait 20
+expect peek 0x586 00 80
+dblclick frmRegister.lblValL(1)
+type frmEditRegister.txtWriteData 0005
+click frmEditRegister.cmdAction(0)
+wait 100
+expect frmHard.picScanLed.Picture "ilsLED_G 2"
+expect continuousScanActive -1
+# 14: INT1R has no bits 0 to 2
+dblclick frmRegister.lblValL(5)
+type frmEditRegister.txtWriteData FF00
+click frmEditRegister.cmdAction(0)
+expect peek 0x589 F8
