@@ -231,6 +231,7 @@ void ScriptRunner::finishInside() {
 }
 
 bool ScriptRunner::runNext() {
+  platform_.finishAdvance();
   if (desk().ended()) return false;
   if (prompt_) out_ << ">" << std::endl;
   std::string line;

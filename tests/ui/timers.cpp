@@ -124,6 +124,21 @@ TEST_F(TimerTest, AHandlerThatYieldsIsNotEnteredAgain) {
   EXPECT_EQ(deepest, 1);
 }
 
+TEST_F(TimerTest, TimeStandsWhenATimerClosesAModalWindowUntilItsOpenerHasGoneOn) {
+  frmClock->timA.onTimer = [] { frmClock->hide(); };
+  platform.onModal = [this](Form&) { platform.advance(50); };
+  frmClock->timA.Interval = 20;
+  frmClock->timB.Interval = 30;
+  frmClock->show(ShowMode::Modal);
+  EXPECT_EQ(platform.now(), 20);
+  EXPECT_EQ(theTimerLog, Lines{});
+  platform.finishAdvance();
+  EXPECT_EQ(platform.now(), 50);
+  EXPECT_EQ(theTimerLog, Lines{"timB@30"});
+  platform.finishAdvance();
+  EXPECT_EQ(platform.now(), 50) << "nothing is left";
+}
+
 TEST_F(TimerTest, AYieldFiresWhatIsDueButDoesNotMoveTheClock) {
   frmClock->timA.Interval = 10;
   yieldToEvents();

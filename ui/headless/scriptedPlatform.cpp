@@ -5,16 +5,29 @@
 #include <filesystem>
 #include <fstream>
 #include <string_view>
+#include <utility>
 
 #include "ui/desk.h"
 
 namespace zelvs {
 
 void ScriptedPlatform::advance(std::int64_t milliseconds) {
-  const std::int64_t end = clock_ + milliseconds;
+  advanceTo(clock_ + milliseconds);
+}
+
+void ScriptedPlatform::finishAdvance() {
+  if (owed_ > clock_) advanceTo(std::exchange(owed_, 0));
+}
+
+void ScriptedPlatform::advanceTo(std::int64_t end) {
+  const Form* modal = desk().modal();
   for (auto due = desk().timers.nextDue(); due && *due <= end; due = desk().timers.nextDue()) {
     clock_ = std::max(clock_, *due);
     desk().timers.fireNext(clock_);
+    if (modal != nullptr && desk().modal() != modal) {
+      owed_ = end;
+      return;
+    }
   }
   // A modal window inside a handler may have moved the clock past the end already.
   clock_ = std::max(clock_, end);

@@ -12,8 +12,11 @@ namespace zelvs {
 class ScriptedPlatform : public Platform {
  public:
   std::int64_t now() override { return clock_; }
-  /// Moves the clock, firing each timer at its due time.
+  /// Moves the clock, firing each timer at its due time. When that closes the modal window, time stands until whoever
+  /// opened it has gone on: what is left is for finishAdvance().
   void advance(std::int64_t milliseconds);
+  /// Moves the clock by what an advance() has left; does nothing otherwise.
+  void finishAdvance();
 
   void yield() override;
   void runModal(Form& form) override;
@@ -34,7 +37,10 @@ class ScriptedPlatform : public Platform {
   std::function<bool(const std::string& title, const std::string& text, MessageButtons buttons)> onMessageBox;
 
  private:
+  void advanceTo(std::int64_t end);
+
   std::int64_t clock_ = 0;
+  std::int64_t owed_ = 0;  // where the clock has still to get to; a time that is past owes nothing
   Point pointer_;
   int beeps_ = 0;
 };
