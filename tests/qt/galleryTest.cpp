@@ -169,6 +169,25 @@ TEST_F(GalleryTest, HandlersOfTheFieldSeeEveryKey) {
   EXPECT_EQ(frmGallery->txtA.Text.get(), "000") << "Delete takes the character behind the caret";
 }
 
+TEST_F(GalleryTest, TheFieldCutsAndUndoesNothingByItself) {
+  auto& field = widgetOf<QLineEdit>(frmGallery->txtA);
+  frmGallery->txtA.SelLength = 2;
+  desk().focus(&frmGallery->txtA);
+  settle();
+  ASSERT_EQ(field.selectedText(), "00");
+  for (const int key : {Qt::Key_X, Qt::Key_Z, Qt::Key_K, Qt::Key_U, Qt::Key_Backspace, Qt::Key_Delete}) {
+    QKeyEvent event(QEvent::KeyPress, key, Qt::ControlModifier);
+    QApplication::sendEvent(&field, &event);
+    settle();
+    EXPECT_EQ(field.text(), "0000") << key;
+    EXPECT_EQ(frmGallery->txtA.Text.get(), "0000") << key;
+  }
+  field.cut();
+  field.del();
+  settle();
+  EXPECT_EQ(field.text(), "0000") << "nor from its menu";
+}
+
 TEST_F(GalleryTest, TheSelectionOfTheModelIsShown) {
   frmGallery->txtA.SelStart = 2;
   frmGallery->txtA.SelLength = 1;

@@ -138,7 +138,9 @@ void Canvas::showPointer(const Control* control) {
 void Canvas::keyPressEvent(QKeyEvent* event) {
   Control* control = desk().focused();
   const int code = keyCodeOf(event->key());
-  if (form_ == nullptr || control == nullptr || &control->form() != form_ || code == 0) {
+  // A shortcut that a field has no use for ends up here, and is no letter.
+  const bool shortcut = (event->modifiers() & (Qt::ControlModifier | Qt::AltModifier)) != 0;
+  if (form_ == nullptr || control == nullptr || &control->form() != form_ || code == 0 || shortcut) {
     QWidget::keyPressEvent(event);
     return;
   }

@@ -46,10 +46,26 @@ class Hosted : public Widget {
   Control& control_;
 };
 
+void showText(const TextBox& text, QLineEdit& field) {
+  const QSignalBlocker quiet(field);
+  const QString shown = QString::fromStdString(text.Text.get());
+  if (field.text() != shown) field.setText(shown);
+  // Programs set longer texts than a person may type.
+  field.setMaxLength(text.MaxLength > 0 ? std::max<int>(text.MaxLength, static_cast<int>(shown.size())) : 32767);
+  if (text.SelLength > 0) {
+    field.setSelection(text.SelStart, text.SelLength);
+  } else {
+    field.setCursorPosition(text.SelStart);
+  }
+}
+
 /// A field whose every edit is made by the model: the widget shows text and caret and passes the keys on.
 class Field final : public Hosted<QLineEdit> {
  public:
-  using Hosted::Hosted;
+  Field(Control& control, QWidget* canvas) : Hosted(control, canvas) {
+    // What the widget has cut, undone or deleted by itself is put back.
+    connect(this, &QLineEdit::textEdited, this, [this] { showText(static_cast<TextBox&>(this->control()), *this); });
+  }
 
  protected:
   void keyPressEvent(QKeyEvent* event) override {
@@ -150,19 +166,6 @@ class Tabs final : public Hosted<QTabBar> {
     connect(this, &QTabBar::currentChanged, this, [&control](int tab) { gesture::pick(control, tab); });
   }
 };
-
-void showText(const TextBox& text, QLineEdit& field) {
-  const QSignalBlocker quiet(field);
-  const QString shown = QString::fromStdString(text.Text.get());
-  if (field.text() != shown) field.setText(shown);
-  // Programs set longer texts than a person may type.
-  field.setMaxLength(text.MaxLength > 0 ? std::max<int>(text.MaxLength, static_cast<int>(shown.size())) : 32767);
-  if (text.SelLength > 0) {
-    field.setSelection(text.SelStart, text.SelLength);
-  } else {
-    field.setCursorPosition(text.SelStart);
-  }
-}
 
 QStringList rowsOf(const ListControl& list) {
   QStringList rows;
