@@ -290,6 +290,55 @@ TEST_F(GalleryTest, ShapesPicturesAndDrawingsAreSeen) {
   EXPECT_NE(shownAt(120 + 87 * 15, 480 + 11 * 15), lamp) << "another image is another lamp";
 }
 
+TEST_F(GalleryTest, ADrawnLineIsOnePixelWideAlsoBetweenTwoPixels) {
+  PictureBox& box = frmGallery->picBox;  // its left top corner is at pixel 8, 32
+  box.line(10, 40, 30.5, 40, kBlack);
+  box.line(30.5, 40, 30.5, 20, kBlack);
+  box.line(30.5, 20, 43, 20, kBlack);
+  box.line(43, 20, 43, 40, kBlack);
+  settle();
+  const QImage image = canvas().grab().toImage();
+  const auto blackIn = [&](int left, int right, int y) {
+    std::vector<int> found;
+    for (int x = left; x <= right; ++x) {
+      const QColor colour = image.pixelColor(8 + x, 32 + y);
+      if (colour == Qt::black) {
+        found.push_back(x);
+      } else {
+        EXPECT_EQ(colour, QColor(Qt::white)) << "no half tones at " << x;
+      }
+    }
+    return found;
+  };
+  ASSERT_EQ(blackIn(25, 50, 30).size(), 2u);
+  const int rise = blackIn(25, 50, 30)[0];
+  EXPECT_NEAR(rise, 30.5, 0.5);
+  EXPECT_EQ(blackIn(25, 50, 30)[1], 43);
+  EXPECT_EQ(blackIn(1, 50, 40).front(), 10);
+  EXPECT_EQ(blackIn(rise, 43, 20).size(), static_cast<std::size_t>(43 - rise + 1)) << "the corners are closed";
+  EXPECT_EQ(blackIn(0, 55, 19).size(), 0u);
+}
+
+TEST_F(GalleryTest, WhatStandsOutOfItsContainerIsNotPainted) {
+  Shape& strip = frmGallery->shpA;
+  strip.placeIn(frmGallery->picBox);  // 100 by 60 pixels from pixel 8, 32
+  strip.ForeColor = kRed;
+  strip.move(8, 0, 100, 80);
+  const QColor outside = shownAt(15 * 109, 15 * 60);
+  EXPECT_NE(outside, QColor(Qt::red));
+  EXPECT_EQ(shownAt(15 * 107, 15 * 60), QColor(Qt::red));
+  EXPECT_EQ(shownAt(15 * 15, 15 * 60), QColor(Qt::white));
+  EXPECT_EQ(shownAt(15 * 17, 15 * 60), QColor(Qt::red));
+  EXPECT_NE(shownAt(15 * 50, 15 * 93), QColor(Qt::red)) << "below";
+  strip.Left = -40;
+  EXPECT_NE(shownAt(15 * 7, 15 * 60), QColor(Qt::red)) << "left of it";
+  EXPECT_EQ(shownAt(15 * 8, 15 * 60), QColor(Qt::red));
+  EXPECT_EQ(shownAt(15 * 67, 15 * 60), QColor(Qt::red));
+  EXPECT_EQ(shownAt(15 * 68, 15 * 60), QColor(Qt::white)) << "where it was";
+  strip.Left = -100;
+  EXPECT_EQ(shownAt(15 * 8, 15 * 60), QColor(Qt::white));
+}
+
 TEST_F(GalleryTest, AFilePictureIsShownInItsOwnSize) {
   TemporaryFolder folder;
   QImage blue(20, 10, QImage::Format_RGB32);

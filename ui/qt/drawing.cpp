@@ -5,6 +5,7 @@
 #include <QHash>
 #include <QScreen>
 #include <QStaticText>
+#include <cmath>
 #include <functional>
 #include <memory>
 #include <string>
@@ -143,8 +144,12 @@ void draw(QPainter& painter, const PictureBox& box, const QRectF& place) {
   if (!box.Transparent) painter.fillRect(place, colourOf(box.BackColor));
   drawPicture(painter, box.Picture, place);
   const double unit = box.unit() / kTwipsPerPixel;
+  // Whole pixels of the screen: at a scale between two whole ones some lines would come out thicker than others.
+  const double lineWidth = std::floor(painter.device()->devicePixelRatioF());
   for (const DrawingOperation& operation : box.drawing()) {
-    painter.setPen(QPen(colourOf(operation.colour), 1));
+    QPen pen(colourOf(operation.colour), lineWidth);
+    pen.setCosmetic(true);
+    painter.setPen(pen);
     const QPointF from(place.left() + operation.x1 * unit, place.top() + operation.y1 * unit);
     if (operation.isText) {
       drawLine(painter, operation.text, from.x(), from.y(), operation.fontSize, box.FontBold);
