@@ -4,6 +4,7 @@
 #include <string_view>
 
 #include "ui/gesture.h"
+#include "ui/utf8.h"
 
 namespace zelvs {
 
@@ -15,9 +16,11 @@ int lastPlace(const TextBox& field) {
   return field.MaxLength - 1;
 }
 
+/// A text that the program has made shorter than the field has no digit to select at its end: the next one goes there.
 void select(TextBox& field, int place) {
-  field.SelStart = std::clamp(place, 0, lastPlace(field));
-  field.SelLength = 1;
+  const int end = static_cast<int>(charactersOf(field.Text.get()).size());
+  field.SelStart = std::clamp(place, 0, std::min(lastPlace(field), end));
+  field.SelLength = std::min(1, end - field.SelStart);
 }
 
 void keyPress(char32_t& character, bool upperCase) {

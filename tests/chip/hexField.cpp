@@ -163,5 +163,23 @@ TEST_F(HexFieldTest, AShorterTextKeepsTheSelectionInside) {
   EXPECT_EQ(look(), "A[B]");
 }
 
+TEST_F(HexFieldTest, ATextShorterThanTheFieldIsTypedOnAtItsEnd) {
+  attach("0000");
+  field().Text = "12";
+  for (int i = 0; i < 4; ++i)
+    key(key::kRight);
+  EXPECT_EQ(look(), "12[]") << "behind its last digit and no further";
+  type("3");
+  EXPECT_EQ(field().Text.get(), "123");
+  type("456");
+  EXPECT_EQ(look(), "123[6]");
+  field().Text = "";
+  key(key::kEnd);
+  key(key::kLeft);
+  EXPECT_EQ(look(), "[]");
+  type("7");
+  EXPECT_EQ(field().Text.get(), "7");
+}
+
 }  // namespace
 }  // namespace zelvs
