@@ -5,12 +5,15 @@
 #include <string>
 #include <string_view>
 
+#include "kernel/hexText.h"
 #include "kernel/outputStage.h"
 #include "kernel/resets.h"
 #include "kernel/state.h"
 #include "learning/frmKAIROZU.h"
+#include "learning/frmMessage.h"
 #include "learning/frmOsiro.h"
 #include "learning/messages.h"
+#include "monitor/frmEditSerial.h"
 #include "panel/frmHard.h"
 #include "panel/panelSetup.h"
 #include "panel/pinModes.h"
@@ -155,8 +158,40 @@ void turnSettingSwitch(PictureBox& input) {
   input.Tag = high ? "1" : "0";
 }
 
+struct Offset {
+  double top;
+  double left;
+};
+
+// Twips from the panel's corner, beside the board. Index: picSDI.
+constexpr std::array<Offset, 4> kSerialEditorPlaces = {{{2800, 7500}, {2800, 12600}, {5900, 7500}, {5900, 12600}}};
+
+/// The word is four hexadecimal digits, high byte first; of a shorter text the missing digits count as none.
+void sendSerialWord(int i, const std::string& digits) {
+  frmHard->picSE(i).Picture = frmHard->ilsLED_G.image(2);
+  serialPending[i] = kTrue;
+  const std::string high = digits.substr(0, 2);
+  const std::string low = digits.substr(high.size(), 2);
+  serialData[2 * i + 1] = static_cast<std::uint8_t>(hexValue(high));
+  serialData[2 * i] = static_cast<std::uint8_t>(hexValue(low));
+}
+
 void picSDI_DblClick(int i) {
-  if (serialPending[i] == kTrue) showMessage("SEがローレベル(LED点灯)中は入力できません。");
+  if (serialPending[i] == kTrue) {
+    showMessage("SEがローレベル(LED点灯)中は入力できません。");
+    return;
+  }
+  serialEditBoard = static_cast<std::int16_t>(i);
+  FrmEditSerial& dialog = *frmEditSerial;
+  dialog.lblAdr.Caption = std::to_string(i + 1);
+  dialog.lblSECaution.Visible = false;
+  if (frmMessage.visible()) frmMessage->hide();
+  const Offset& place = kSerialEditorPlaces[static_cast<std::size_t>(i)];
+  dialog.move(frmHard->Left + place.left, frmHard->Top + place.top);
+  dialog.keepOnScreen();
+  dialog.show(ShowMode::Modal, frmMDI.get());
+  frmHard->picSerialInt(i).Visible = false;
+  if (dialog.cancelled == kFalse) sendSerialWord(i, dialog.enteredValue);
 }
 
 /// Picks the explanation of what a board's two setting switches, 0 to 4, mean together. Untouched ones mean nothing.
@@ -168,10 +203,6 @@ void showStbPicture(int board) {
   frmOsiro->initPicture(image);
 }
 
-struct Offset {
-  double top;
-  double left;
-};
 // Twips from the panel's corner, beside the board; the last one serves all other boards.
 constexpr std::array<Offset, 5> kExplanationPlaces = {
     {{4000, 7900}, {4000, 13300}, {7100, 7900}, {7100, 13300}, {9000, 7900}}};

@@ -382,9 +382,14 @@ TEST_F(PinsTest, SettingSwitchesTurnHighFirstAndThenLow) {
   }
 }
 
-// ---- The serial line's own timer
+// ---- The serial input and the panel's own timer for it
 
 TEST_F(PinsTest, UnreadSerialDataRefusesMore) {
+  std::string opened;
+  platform.onModal = [&opened](Form& form) {
+    opened += form.name() + " ";
+    EXPECT_EQ(gesture::close(form), "");
+  };
   for (int i = 0; i < 4; ++i) {
     doubleClick(frmHard->picSDI(i));
     EXPECT_EQ(refusal(), "") << i;
@@ -393,6 +398,7 @@ TEST_F(PinsTest, UnreadSerialDataRefusesMore) {
     EXPECT_EQ(refusal(), "SEがローレベル(LED点灯)中は入力できません。") << i;
     EXPECT_EQ(serialPending[i], kTrue);
   }
+  EXPECT_EQ(opened, "frmEditSerial frmEditSerial frmEditSerial frmEditSerial ");
 }
 
 TEST_F(PinsTest, TheSerialTimerCountsDownOnceAndStops) {
