@@ -45,6 +45,16 @@ select frmHard.cmbCPUType 0
 click frmMDI.lblMemoryWindow
 click frmDumpSel.cmdAREA(4)
 
+# A word for board 1's serial input, drawn and half way out.
+dblclick frmHard.picSDI(0)
+type frmEditSerial.txtWriteData A53C
+click frmEditSerial.cmdAction(0)
+screenshot frmEditSerial serial-drawn.png
+click frmEditSerial.cmdAction(2)
+wait 1600
+screenshot frmEditSerial serial-running.png
+close frmEditSerial
+
 dblclick frmHard.picIOS
 screenshot frmHard panel-list-open.png
 select frmHard.cmbIOS 0
