@@ -22,6 +22,7 @@
 #include "ui/controls.h"
 #include "ui/qt/canvas.h"
 #include "ui/qt/desktopScript.h"
+#include "ui/qt/drawing.h"
 #include "ui/qt/qtPlatform.h"
 #include "ui/qt/windows.h"
 
@@ -317,6 +318,28 @@ TEST_F(GalleryTest, ADrawnLineIsOnePixelWideAlsoBetweenTwoPixels) {
   EXPECT_EQ(blackIn(1, 50, 40).front(), 10);
   EXPECT_EQ(blackIn(rise, 43, 20).size(), static_cast<std::size_t>(43 - rise + 1)) << "the corners are closed";
   EXPECT_EQ(blackIn(0, 55, 19).size(), 0u);
+}
+
+TEST_F(GalleryTest, DrawnLinesAreAlikeAtEveryScale) {
+  const std::pair<double, int> scales[] = {{1, 1}, {1.25, 1}, {1.5, 1}, {1.75, 1}, {2, 2}, {2.5, 2}, {3, 3}};
+  for (int x = 5; x < 50; x += 5)
+    frmGallery->picBox.line(x + 0.5 * (x % 2), 20, x + 0.5 * (x % 2), 50, kBlack);
+  for (const auto& [scale, width] : scales) {
+    QImage image(QSizeF(400 * scale, 360 * scale).toSize(), QImage::Format_RGB32);
+    image.setDevicePixelRatio(scale);
+    QPainter painter(&image);
+    drawControls(painter, *frmGallery, QRegion(0, 0, 400, 360));
+    painter.end();
+    std::vector<int> widths;
+    bool before = false;
+    for (int x = qRound(9 * scale); x < qRound(60 * scale); ++x) {
+      const bool black = image.pixelColor(x, qRound((32 + 35) * scale)) == Qt::black;
+      if (black && !before) widths.push_back(0);
+      if (black) ++widths.back();
+      before = black;
+    }
+    EXPECT_EQ(widths, std::vector<int>(9, width)) << scale;
+  }
 }
 
 TEST_F(GalleryTest, WhatStandsOutOfItsContainerIsNotPainted) {
