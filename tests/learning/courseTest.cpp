@@ -160,7 +160,7 @@ TEST(CourseTest, ARegistersNameFindsItsHintAndTheSeventhIsTheControlWords) {
     EXPECT_EQ((*found)[0], name + ".BMP");
   }
   ASSERT_GT(hints.size(), 6U);
-  EXPECT_EQ(hints[6][1], "コントロールワード");
+  EXPECT_EQ(hints[6][1], "コントロール");
 }
 
 }  // namespace
