@@ -60,10 +60,12 @@ void QtPlatform::formHidden(Form& form) {
 bool QtPlatform::messageBox(const std::string& title, const std::string& text, MessageIcon icon,
                             MessageButtons buttons) {
   timersChanged();
+  // It belongs to the modal window that asks, which would be raised over a mere neighbour.
+  QWidget* modal = QApplication::activeModalWidget();
   QMessageBox box(icon == MessageIcon::Question ? QMessageBox::Question : QMessageBox::Information,
                   QString::fromStdString(title), QString::fromStdString(text),
                   buttons == MessageButtons::Ok ? QMessageBox::Ok : QMessageBox::Ok | QMessageBox::Cancel,
-                  windows_.frame());
+                  modal != nullptr ? modal : windows_.frame());
   return box.exec() == QMessageBox::Ok;
 }
 

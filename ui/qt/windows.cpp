@@ -33,13 +33,18 @@ Qt::WindowFlags childFlags(const Form& form) {
   return flags;
 }
 
+/// True when the window's size is the user's as well as the program's.
+bool sizable(const Form& form) {
+  return form.kind() == FormKind::Window && form.border() == Border::Sizable;
+}
+
 /// A window made of nothing but its canvas.
 class TopWindow final : public QWidget {
  public:
-  TopWindow(Canvas* canvas, QWidget* owner, Qt::WindowFlags flags) : QWidget(owner, flags) {
+  TopWindow(Canvas* canvas, QWidget* owner, Qt::WindowFlags flags, bool fixed) : QWidget(owner, flags) {
     auto* layout = new QVBoxLayout(this);
     layout->setContentsMargins(0, 0, 0, 0);
-    layout->setSizeConstraint(QLayout::SetFixedSize);
+    layout->setSizeConstraint(fixed ? QLayout::SetFixedSize : QLayout::SetNoConstraint);
     layout->addWidget(canvas);
   }
 };
@@ -119,7 +124,7 @@ QWidget* Windows::makeWindow(Form& form, Canvas* canvas) {
     if (form.hasCloseBox()) flags |= Qt::WindowCloseButtonHint;
   }
   if (form.topmost()) flags |= Qt::WindowStaysOnTopHint;
-  return new TopWindow(canvas, frame_, flags);
+  return new TopWindow(canvas, frame_, flags, !sizable(form));
 }
 
 void Windows::takeHome(const Form& form, QMdiSubWindow* child) {
@@ -141,6 +146,8 @@ void Windows::place(const Form& form, const Shown& shown) {
   auto* child = qobject_cast<QMdiSubWindow*>(shown.window);
   if (child != nullptr) takeHome(form, child);
   if (form.kind() == FormKind::Frame) return;  // the user's own: the program never moves it
+  // Where the user may draw at the window's edge the canvas follows the window, and not the other way round.
+  if (sizable(form)) shown.window->resize(shown.canvas->size());
   if (shown.window->pos() != pixelPlace(form)) shown.window->move(pixelPlace(form));
   if (child != nullptr) child->adjustSize();
 }
@@ -263,6 +270,11 @@ void Windows::takePlace(Form& form, const QWidget& window) {
   form.Top = place.y() * kTwipsPerPixel + edgeOf(form);
 }
 
+void Windows::takeSize(Form& form, const QWidget& window) {
+  form.Width = window.width() * kTwipsPerPixel;
+  form.Height = window.height() * kTwipsPerPixel + (form.Height - form.clientHeight());
+}
+
 bool Windows::eventFilter(QObject* watched, QEvent* event) {
   Form* form = formOf(watched);
   if (form == nullptr) return false;
@@ -276,10 +288,7 @@ bool Windows::eventFilter(QObject* watched, QEvent* event) {
       if (!following_ && form->visible() && !window->isMaximized()) takePlace(*form, *window);
       return false;
     case QEvent::Resize:
-      if (window == frame_) {
-        form->Width = frame_->width() * kTwipsPerPixel;
-        form->Height = frame_->height() * kTwipsPerPixel + (form->Height - form->clientHeight());
-      }
+      if (window == frame_ || (sizable(*form) && !following_)) takeSize(*form, *window);
       return false;
     case QEvent::MouseButtonPress:
       // Outside its area nobody tells of a child that is taken by its title bar.

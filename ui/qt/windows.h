@@ -52,6 +52,7 @@ class Windows final : public QObject {
   void takeHome(const Form& form, QMdiSubWindow* child);
   void stack();
   void takePlace(Form& form, const QWidget& window);
+  void takeSize(Form& form, const QWidget& window);
   Form* formOf(const QObject* window) const;
 
   QHash<const Form*, Shown> shown_;

@@ -1,0 +1,83 @@
+// A window whose edge the user may draw at: the form takes the size, and the window follows the form.
+
+#include <gtest/gtest.h>
+
+#include <QApplication>
+#include <memory>
+
+#include "learning/frmNaviList.h"
+#include "learning/frmNavigation.h"
+#include "support/program.h"
+#include "ui/qt/canvas.h"
+#include "ui/qt/desktopScript.h"
+
+namespace zelvs {
+namespace {
+
+class SizingTest : public testing::Test {
+ protected:
+  SizingTest() {
+    qputenv("QT_QPA_PLATFORM", "offscreen");
+    desktop_ = std::make_unique<DesktopScript>(argc_, argv_);
+    clearState();
+  }
+  ~SizingTest() override { desk().clear(); }
+
+  static void settle() {
+    for (int i = 0; i < 3; ++i)
+      QApplication::processEvents();
+  }
+  static Canvas* canvasOf(const Form* form) {
+    for (QWidget* widget : QApplication::allWidgets()) {
+      auto* canvas = qobject_cast<Canvas*>(widget);
+      if (canvas != nullptr && canvas->form() == form) return canvas;
+    }
+    return nullptr;
+  }
+
+  int argc_ = 1;
+  char name_[5] = "test";
+  char* argv_[2] = {name_, nullptr};
+  std::unique_ptr<DesktopScript> desktop_;
+};
+
+TEST_F(SizingTest, TheFormTakesTheSizeThatTheUserGives) {
+  frmNavigation->show();
+  settle();
+  Canvas* canvas = canvasOf(frmNavigation.form());
+  QWidget* window = canvas->window();
+  EXPECT_EQ(window->width(), 11205 / 15);
+  EXPECT_EQ(canvas->size(), window->size());
+  const double caption = frmNavigation->Height - frmNavigation->clientHeight();
+  for (const QSize size : {QSize(900, 150), QSize(500, 80), QSize(200, 95)}) {
+    window->resize(size);
+    settle();
+    EXPECT_EQ(window->size(), size);
+    EXPECT_EQ(canvas->size(), size);
+    EXPECT_DOUBLE_EQ(frmNavigation->Width, size.width() * 15);
+    EXPECT_DOUBLE_EQ(frmNavigation->Height, size.height() * 15 + caption);
+    // It went back to its corner, and the window with it.
+    EXPECT_DOUBLE_EQ(frmNavigation->Left, platform().screen().width * 15 - frmNavigation->Width - 50);
+    EXPECT_EQ(window->pos().x(), qRound(frmNavigation->Left / 15));
+    EXPECT_EQ(window->pos().y(), qRound(frmNavigation->Top / 15));
+    const QWidget* next = canvas->widgetOf(frmNavigation->cmdAction(1));
+    EXPECT_NEAR(next->width(), frmNavigation->cmdAction(1).Width / 15, 1.01) << "to whole pixels";
+  }
+  frmNavigation->Width = 12000;
+  settle();
+  EXPECT_EQ(window->width(), 800) << "the program's own size";
+}
+
+TEST_F(SizingTest, OtherWindowsKeepTheirSize) {
+  frmNaviList->show();
+  settle();
+  QWidget* window = canvasOf(frmNaviList.form())->window();
+  const QSize before = window->size();
+  window->resize(900, 700);
+  settle();
+  EXPECT_EQ(window->size(), before);
+  EXPECT_DOUBLE_EQ(frmNaviList->Width, before.width() * 15);
+}
+
+}  // namespace
+}  // namespace zelvs
