@@ -123,16 +123,15 @@ void FrmNavigation::turnTo(int page) {
 
 void FrmNavigation::showPage(int page) {
   lblIndex.Caption = std::to_string(page) + "/" + std::to_string(pageCount);
-  const int first = (page - 1) * kLinesOfPage;
   for (PictureBox& strip : picNav) {
-    const auto line = static_cast<std::size_t>(first + strip.index());
-    if (line >= naviLines.size()) {
-      runTimeError(path_ + " has no line " + std::to_string(first + strip.index() + 1) + " for page " +
-                   std::to_string(page) + ": it has " + std::to_string(naviLines.size()) + " lines");
+    const int number = (page - 1) * kLinesOfPage + strip.index() + 1;
+    if (number < 1 || static_cast<std::size_t>(number) > naviLines.size()) {
+      runTimeError(path_ + " has no line " + std::to_string(number) + " for page " + std::to_string(page) +
+                   ": it has " + std::to_string(naviLines.size()) + " lines");
     }
     strip.cls();
     strip.ForeColor = kBlack;
-    printMarked(strip, naviLines[line]);
+    printMarked(strip, naviLines[static_cast<std::size_t>(number) - 1]);
   }
 }
 

@@ -18,6 +18,11 @@ Flag isLesson(const std::string& fileName) {
   return std::filesystem::is_regular_file(naviPath(fileName), error) ? kTrue : kFalse;
 }
 
+[[noreturn]] void refuse(const std::string& path, std::size_t number, const std::string& line) {
+  runTimeError(path + ", line " + std::to_string(number) + ": no file name, title and note with a TAB between: \"" +
+               line + "\"");
+}
+
 /// Nothing when the line has fewer than two TABs. The third field takes all further ones.
 std::optional<NaviRecord> entryOf(const std::string& line) {
   const std::size_t first = line.find('\t');
@@ -41,10 +46,7 @@ void readNaviIndex() {
     const std::string& line = (*lines)[i];
     if (line.starts_with(';')) continue;
     const std::optional<NaviRecord> entry = entryOf(line);
-    if (!entry) {
-      runTimeError(path + ", line " + std::to_string(i + 1) + ": no file name, title and note with a TAB between: \"" +
-                   line + "\"");
-    }
+    if (!entry) refuse(path, i + 1, line);
     naviIndex.push_back(*entry);
   }
 }

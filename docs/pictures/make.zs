@@ -94,5 +94,15 @@ dblclick frmHard.picBridge(0)
 dblclick frmHard.picBridge(1)
 screenshot frmHard panel-nothing-connected.png
 
+# A lesson; its start puts the bench back to the maker's settings.
+dblclick frmMDI.lblNagigator
+screenshot frmNaviList lesson-list.png
+click frmNaviList.cmdStart
+click frmNavigation.cmdAction(1)
+wait 100
+screenshot frmNavigation lesson-page.png
+screenshot all lesson.png
+click frmNavigation.cmdAction(3)
+
 click frmMDI.lblVersion
 screenshot frmVersion splash.png

@@ -46,6 +46,8 @@ expect openWindow(2) 1
 expect openWindow(3) 1
 expect openWindow(4) 0
 expect openWindow(5) 0
+expect ioBoardMode 0
+expect frmHard.cmbIOS.ListIndex 0
 expect runMode 0
 expect frmHard.Visible True
 expect frmRegister.Visible True
