@@ -1,5 +1,5 @@
-// Draws the schematic pictures of the boards. A circuit with a fault, a wire that ends in the air for one, is not
-// drawn: the tool names the picture and the place and fails.
+// Draws the schematic pictures of the boards. A circuit with a fault, a wire that ends in the air for one, fails the
+// build with the picture's name and the place; it is drawn all the same, since the picture helps to find the fault.
 
 #include <QDir>
 #include <QGuiApplication>

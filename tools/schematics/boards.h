@@ -22,8 +22,8 @@ enum : Has {
   kSlave = 1 << 10,   // it hangs on a master
   kPlain = 1 << 11,   // no PWM
   kPwm = 1 << 12,
-  kCounter = 1 << 13,  // pins of the counter beside the PWM
-  kUncounted = 1 << 14,
+  kCounter = 1 << 13,    // pins of the counter beside the PWM
+  kUncounted = 1 << 14,  // PWM without them
 };
 
 /// The line part of the satellite boards: what an overlay replaces.

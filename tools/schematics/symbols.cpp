@@ -190,10 +190,10 @@ class Pen {
       line(left, y_ - 4, kContacts, 0);
       line(left + kContacts / 2, y_ - 4, 0, -3);
     } else {
-      line(left, y_, kContacts, kind_ == Kind::kClosed ? 0 : -5);
+      line(left, y_, kContacts, kind_ == Kind::kClosed ? 0 : -6);
     }
     for (const int contact : {left, left + kContacts})
-      stroke(Shape::kOval, contact - 1, y_ - 1, 2, 2, Ink::kPaper);
+      stroke(Shape::kOval, contact - 2, y_ - 2, 4, 4, Ink::kPaper);
   }
 
   void jumper() {
