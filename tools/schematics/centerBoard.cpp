@@ -7,16 +7,16 @@ namespace schematics {
 namespace {
 
 constexpr Part kChipParts[] = {
-    {kAlways, Kind::kBox, 480, 56, 130, 700},
+    {kAlways, Kind::kBox, 480, 50, 130, 706},
     {kAlways, Kind::kHead, 506, 330, 0, 0, "U1 QVT60"},
-    {kAlways, Kind::kSupply, 545, 42},
+    {kAlways, Kind::kSupply, 545, 36},
     {kAlways, Kind::kGround, 545, 770},
 };
 constexpr Pin kChipPins[] = {
-    {kAlways, Side::kTop, 497, 56, "VCC", 10},
-    {kAlways, Side::kTop, 529, 56, "VCC", 35},
-    {kAlways, Side::kTop, 561, 56, "VCC", 60},
-    {kAlways, Side::kTop, 593, 56, "VCC", 85},
+    {kAlways, Side::kTop, 497, 50, "VCC", 10},
+    {kAlways, Side::kTop, 529, 50, "VCC", 35},
+    {kAlways, Side::kTop, 561, 50, "VCC", 60},
+    {kAlways, Side::kTop, 593, 50, "VCC", 85},
     {kAlways, Side::kBottom, 497, 756, "GND", 25},
     {kAlways, Side::kBottom, 529, 756, "GND", 50},
     {kAlways, Side::kBottom, 561, 756, "GND", 75},
@@ -45,8 +45,8 @@ constexpr Pin kChipPins[] = {
     {kAlways, Side::kLeft, 480, 734, "BIG", 21},
 };
 constexpr Net kChipNets[] = {
-    {kAlways, {{{497, 42}, {593, 42}}}},
-    {kAlways, {{{497, 42}, {497, 56}}}, 4, 32},
+    {kAlways, {{{497, 36}, {593, 36}}}},
+    {kAlways, {{{497, 36}, {497, 50}}}, 4, 32},
     {kAlways, {{{497, 770}, {593, 770}}}},
     {kAlways, {{{497, 756}, {497, 770}}}, 4, 32},
 };

@@ -9,19 +9,19 @@ namespace schematics {
 namespace {
 
 constexpr Part kChipParts[] = {
-    {kAlways, Kind::kBox, 480, 56, 130, 700},
+    {kAlways, Kind::kBox, 480, 50, 130, 706},
     {kAlways, Kind::kHead, 512, 600, 0, 0, "U1 QVT50"},
-    {kAlways, Kind::kSupply, 545, 42},
+    {kAlways, Kind::kSupply, 545, 36},
     {kAlways, Kind::kGround, 545, 770},
     {kAlways, Kind::kTest, 464, 260, 0, 0, "TP1"},
     {kPlain, Kind::kTest, 464, 300, 0, 0, "TP2"},
     {kPwm, Kind::kOpen, 464, 300},
 };
 constexpr Pin kChipPins[] = {
-    {kAlways, Side::kTop, 497, 56, "VCC", 6},
-    {kAlways, Side::kTop, 529, 56, "VCC", 26},
-    {kAlways, Side::kTop, 561, 56, "VCC", 46},
-    {kAlways, Side::kTop, 593, 56, "VCC", 77},
+    {kAlways, Side::kTop, 497, 50, "VCC", 6},
+    {kAlways, Side::kTop, 529, 50, "VCC", 26},
+    {kAlways, Side::kTop, 561, 50, "VCC", 46},
+    {kAlways, Side::kTop, 593, 50, "VCC", 77},
     {kAlways, Side::kBottom, 497, 756, "GND", 14},
     {kAlways, Side::kBottom, 529, 756, "GND", 34},
     {kAlways, Side::kBottom, 561, 756, "GND", 57},
@@ -44,7 +44,7 @@ constexpr Pin kChipPins[] = {
     {kAlways, Side::kRight, 610, 556, "SSB", 49},
 };
 constexpr Net kChipNets[] = {
-    {kAlways, {{{497, 42}, {593, 42}}}},   {kAlways, {{{497, 42}, {497, 56}}}, 4, 32},
+    {kAlways, {{{497, 36}, {593, 36}}}},   {kAlways, {{{497, 36}, {497, 50}}}, 4, 32},
     {kAlways, {{{497, 770}, {593, 770}}}}, {kAlways, {{{497, 756}, {497, 770}}}, 4, 32},
     {kAlways, {{{464, 260}, {480, 260}}}}, {kAlways, {{{464, 300}, {480, 300}}}},
 };
@@ -140,7 +140,7 @@ constexpr Part kMotorParts[] = {
     {kPwm, Kind::kGround, 722, 160},
     {kPwm, Kind::kFrame, 712, 140, 374, 116, "モータドライブ基板"},
     {kPwm, Kind::kBox, 740, 168, 90, 70},
-    {kPwm, Kind::kName, 740, 158, 0, 0, "U5"},
+    {kPwm, Kind::kName, 740, 158, 0, 0, "U3"},
     {kPwm, Kind::kNote, 834, 158, 0, 0, "Hブリッジ"},
     {kPwm, Kind::kSupply, 785, 168, 0, 0, "+24V"},
     {kPwm, Kind::kGround, 785, 238},

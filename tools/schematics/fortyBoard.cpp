@@ -8,18 +8,18 @@ namespace schematics {
 namespace {
 
 constexpr Part kChipParts[] = {
-    {kAlways, Kind::kBox, 480, 56, 130, 700},
+    {kAlways, Kind::kBox, 480, 50, 130, 706},
     {kAlways, Kind::kHead, 512, 340, 0, 0, "U1 QVT40"},
-    {kAlways, Kind::kSupply, 545, 42},
+    {kAlways, Kind::kSupply, 545, 36},
     {kAlways, Kind::kGround, 545, 770},
     {kAlways, Kind::kTest, 464, 260, 0, 0, "TP1"},
     {kAlways, Kind::kTest, 464, 300, 0, 0, "TP2"},
 };
 constexpr Pin kChipPins[] = {
-    {kAlways, Side::kTop, 497, 56, "VCC", 6},
-    {kAlways, Side::kTop, 529, 56, "VCC", 35},
-    {kAlways, Side::kTop, 561, 56, "VCC", 63},
-    {kAlways, Side::kTop, 593, 56, "VCC", 90},
+    {kAlways, Side::kTop, 497, 50, "VCC", 6},
+    {kAlways, Side::kTop, 529, 50, "VCC", 35},
+    {kAlways, Side::kTop, 561, 50, "VCC", 63},
+    {kAlways, Side::kTop, 593, 50, "VCC", 90},
     {kAlways, Side::kBottom, 497, 756, "GND", 23},
     {kAlways, Side::kBottom, 529, 756, "GND", 53},
     {kAlways, Side::kBottom, 561, 756, "GND", 80},
@@ -50,7 +50,7 @@ constexpr Pin kChipPins[] = {
     {kAlways, Side::kRight, 610, 734, "SE", 54},
 };
 constexpr Net kChipNets[] = {
-    {kAlways, {{{497, 42}, {593, 42}}}},   {kAlways, {{{497, 42}, {497, 56}}}, 4, 32},
+    {kAlways, {{{497, 36}, {593, 36}}}},   {kAlways, {{{497, 36}, {497, 50}}}, 4, 32},
     {kAlways, {{{497, 770}, {593, 770}}}}, {kAlways, {{{497, 756}, {497, 770}}}, 4, 32},
     {kAlways, {{{464, 260}, {480, 260}}}}, {kAlways, {{{464, 300}, {480, 300}}}},
 };
@@ -122,7 +122,7 @@ constexpr Part kOutputParts[] = {
     {kAlways, Kind::kArray, 626, 646, 84, 18, "RN7 10kΩ×2"},
     {kAlways, Kind::kSupply, 728, 655},
     {kAlways, Kind::kLed, 632, 734, 40, 1, "LED16 SE", "green"},
-    {kAlways, Kind::kResistor, 684, 734, 46, 0, "R5", "330Ω"},
+    {kAlways, Kind::kResistor, 684, 734, 46, 0, "R3", "330Ω"},
     {kAlways, Kind::kSupply, 748, 734},
 };
 constexpr Pin kOutputPins[] = {
