@@ -19,8 +19,9 @@ shift 4
 folder=$(mktemp -d)
 texts=$(mktemp -d)
 trap 'rm -rf "$folder" "$texts"' EXIT
-cp -R "$shipped/." "$folder"
-rm -f "$folder/zelvs" "$folder/zelvs-script"
+# The pictures are large: a link to each will do.
+cp -Rs "$shipped/." "$folder"
+rm -f "$folder/zelvs" "$folder/zelvs-script" "$folder/ZELVS.INI"
 cp "$(dirname "$0")/../assets/ZELVS.INI" "$folder/ZELVS.INI"
 
 sed -n 's/^#ini //p' "$case" | while IFS='=' read -r key value; do

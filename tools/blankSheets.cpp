@@ -1,0 +1,77 @@
+// Stands in for the tools that draw, in a build without the desktop: white sheets under the names and in the sizes of
+// the schematics and hints. Nobody sees them there, but the windows that show them work as they do everywhere.
+//
+// usage: zelvs-blank-sheets PROGRAM-FOLDER, whose list of hints must be there
+
+#include <cstdint>
+#include <cstdio>
+#include <filesystem>
+#include <fstream>
+#include <string>
+
+#include "tools/schematics/boards.h"
+#include "ui/textFile.h"
+
+namespace {
+
+constexpr int kHintWidth = 480;
+constexpr int kHintHeight = 372;
+
+void append(std::string& bytes, std::uint32_t value, int width) {
+  for (int byte = 0; byte < width; ++byte)
+    bytes += static_cast<char>(value >> 8 * byte & 0xFF);
+}
+
+/// A bitmap of one bit a pixel, both colours of which are white.
+std::string whiteBitmap(int width, int height) {
+  constexpr std::uint32_t kHeads = 14 + 40 + 2 * 4;
+  const auto rowBytes = static_cast<std::uint32_t>((width + 31) / 32 * 4);
+  const std::uint32_t pixels = rowBytes * static_cast<std::uint32_t>(height);
+  std::string bytes = "BM";
+  append(bytes, kHeads + pixels, 4);
+  append(bytes, 0, 4);
+  append(bytes, kHeads, 4);
+  append(bytes, 40, 4);
+  append(bytes, static_cast<std::uint32_t>(width), 4);
+  append(bytes, static_cast<std::uint32_t>(height), 4);
+  append(bytes, 1, 2);  // planes
+  append(bytes, 1, 2);  // bits a pixel
+  for (int field = 0; field < 6; ++field)
+    append(bytes, 0, 4);
+  for (int colour = 0; colour < 2; ++colour)
+    append(bytes, 0x00FFFFFF, 4);
+  return bytes.append(pixels, '\0');
+}
+
+bool write(const std::filesystem::path& path, int width, int height) {
+  std::ofstream file(path, std::ios::binary);
+  file << whiteBitmap(width, height);
+  if (file.flush()) return true;
+  std::fprintf(stderr, "cannot write %s\n", path.c_str());
+  return false;
+}
+
+}  // namespace
+
+int main(int argc, char** argv) {
+  if (argc != 2) {
+    std::fprintf(stderr, "usage: zelvs-blank-sheets PROGRAM-FOLDER\n");
+    return 2;
+  }
+  const std::filesystem::path folder = argv[1];
+  std::filesystem::create_directories(folder / "Kairozu");
+  bool written = true;
+  for (const schematics::Picture& picture : schematics::allPictures())
+    written &= write(folder / "Kairozu" / picture.file, picture.place.w, picture.place.h);
+  const std::string list = (folder / "HintData/RegsterHint.TXT").string();
+  const auto lines = zelvs::readTextFile(list);
+  if (!lines) {
+    std::fprintf(stderr, "cannot read %s\n", list.c_str());
+    return 1;
+  }
+  for (const std::string& line : *lines) {
+    if (line.starts_with(';')) continue;
+    written &= write(folder / "HintData" / line.substr(0, line.find('\t')), kHintWidth, kHintHeight);
+  }
+  return written ? 0 : 1;
+}
