@@ -1,6 +1,13 @@
 # What the lesson CablesAndErrors.txt lets the user do, page by page, and what it promises.
-# A lesson starts with the maker's values; its restart leaves board 5 in IOS 0, all sixteen pins inputs.
-#ini IOS-QVT50=0
+# It starts with the maker's values whatever the bench was like.
+#ini CPUTYPE=3
+#ini CABLECONNECTION=0
+#ini OPENWINDOW1=0
+dblclick frmMDI.lblNagigator
+expect frmNaviList.lstTitle.List(1) "レッスン2  ケーブルと局番、通信エラー"
+select frmNaviList.lstTitle 1
+click frmNaviList.cmdStart
+expect frmNavigation.lblIndex.Caption 1/14
 wait 100
 # 1: one road of three cables, two slaves with the next addresses
 expect frmHard.picBOARD2_RXD(0).Tag 1
@@ -9,10 +16,14 @@ expect frmHard.picBOARD2_RXD(3).Tag 1
 expect frmHard.picBridge(0).Visible True
 expect frmHard.picBridge(1).Visible True
 # 2: control words, all 0
+click frmNavigation.cmdAction(1)
+expect frmNavigation.lblIndex.Caption 2/14
 activate frmDumpCDIO
 expect frmDumpCDIO.lblAdr(0).Caption 00x
 expect peek 0x000 00 00 00 00 00 00 00 00 00 00 00 00
 # 3: the cable from board 1 to board 3 out: both check lamps, for one and a half seconds
+click frmNavigation.cmdAction(1)
+expect frmNavigation.lblIndex.Caption 3/14
 click frmHard.picCableUp(1)
 wait 100
 expect frmHard.picChkLED(0).Picture "ilsLED_R 2"
@@ -23,6 +34,8 @@ wait 200
 expect frmHard.picChkLED(0).Picture "ilsLED_R 1"
 expect frmHard.picChkLED(1).Picture "ilsLED_R 1"
 # 4: the reports of stations 03, 04 and 05, in the columns -7, -9 and -B
+click frmNavigation.cmdAction(1)
+expect frmNavigation.lblIndex.Caption 4/14
 expect peek 0x002 00 00 00 00 00 7C 00 7C 00 7C
 expect frmDumpCDIO.lblOff(8).Caption "-7"
 expect frmDumpCDIO.lblData(8).Caption 7C
@@ -32,6 +45,8 @@ expect frmDumpCDIO.lblData(6).Caption 7C
 expect frmDumpCDIO.lblOff(4).Caption "-B"
 expect frmDumpCDIO.lblData(4).Caption 7C
 # 5: both counts
+click frmNavigation.cmdAction(1)
+expect frmNavigation.lblIndex.Caption 5/14
 expect frmRegister.lblReg(6).Caption C1CR
 expect frmRegister.lblValL(6).Caption 03
 expect frmRegister.lblReg(7).Caption C2CR
@@ -39,6 +54,8 @@ expect frmRegister.lblValL(7).Caption 03
 wait 2000
 expect peek 0x58A 03 00 03 00
 # 6: plugged again; the other end does as well
+click frmNavigation.cmdAction(1)
+expect frmNavigation.lblIndex.Caption 6/14
 click frmHard.picCableUp(1)
 wait 100
 expect peek 0x002 00 00 00 00 00 00 00 00 00 00
@@ -50,6 +67,8 @@ expect frmHard.picBOARD2_RXD(1).Tag 1
 wait 100
 expect peek 0x58A 03 00 03 00
 # 7: a 1 in bit 0 clears a count, 0000 does not
+click frmNavigation.cmdAction(1)
+expect frmNavigation.lblIndex.Caption 7/14
 dblclick frmRegister.lblValL(6)
 expect frmEditRegister.txtWriteData.Text 0003
 type frmEditRegister.txtWriteData 0001
@@ -64,6 +83,8 @@ type frmEditRegister.txtWriteData 0001
 click frmEditRegister.cmdAction(0)
 expect peek 0x58C 00
 # 8: the failures of station 05, one a round of five times 0.3 seconds
+click frmNavigation.cmdAction(1)
+expect frmNavigation.lblIndex.Caption 8/14
 click frmMDI.lblRunMode(2)
 click frmHard.picCableUp(2)
 wait 1500
@@ -75,6 +96,8 @@ expect peek 0x58A 01 00 00 00
 wait 1500
 expect frmDumpCDIO.lblData(4).Caption 3C
 # 9: C1CR at the first, C2CR at the third; the report stops at 7C
+click frmNavigation.cmdAction(1)
+expect frmNavigation.lblIndex.Caption 9/14
 expect peek 0x58A 01 00 01 00
 wait 1500
 expect frmDumpCDIO.lblData(4).Caption 4C
@@ -90,6 +113,8 @@ wait 2000
 expect peek 0x00B 00
 expect frmHard.picChkLED(0).Picture "ilsLED_R 1"
 # 10: board 5 moves to address 06, which nobody polls
+click frmNavigation.cmdAction(1)
+expect frmNavigation.lblIndex.Caption 10/14
 expect frmHard.picB1_LED(5).Picture "ilsLED_G 2"
 dblclick frmHard.picSA(5)
 expect frmHard.cmbSA(2).List(5) 0x06
@@ -99,6 +124,8 @@ expect peek 0x00B 7C
 expect frmHard.picB1_LED(5).Picture "ilsLED_R 1"
 expect frmRegister.lblValL(1).Caption 05
 # 11: the final station follows
+click frmNavigation.cmdAction(1)
+expect frmNavigation.lblIndex.Caption 11/14
 dblclick frmRegister.lblValL(1)
 type frmEditRegister.txtWriteData 0006
 click frmEditRegister.cmdAction(0)
@@ -115,6 +142,8 @@ select frmHard.cmbSA(2) 4
 wait 100
 expect peek 0x000 00 00 00 00 00 00 00 00 00 00 00 00 00 00
 # 12: two boards on one address
+click frmNavigation.cmdAction(1)
+expect frmNavigation.lblIndex.Caption 12/14
 dblclick frmHard.picSA(3)
 select frmHard.cmbSA(1) 0
 expect frmDialog.lblDialogTitle.Caption "   警 告"
@@ -123,6 +152,8 @@ click frmDialog.cmdAction(0)
 wait 100
 expect peek 0x002 00 7C 00 7C 00 7C 00 7C 00 00
 # 13: back, and noise: eleven hits in known places, then some on one station in a row
+click frmNavigation.cmdAction(1)
+expect frmNavigation.lblIndex.Caption 13/14
 dblclick frmHard.picSA(3)
 select frmHard.cmbSA(1) 2
 wait 100
@@ -137,3 +168,7 @@ expect frmHard.picChkLED(1).Picture "ilsLED_R 2"
 release frmHard.picNoise
 wait 100
 expect peek 0x002 00 00 00 00 00 00 00 00 00 00
+# 14: the end
+click frmNavigation.cmdAction(1)
+expect frmNavigation.lblIndex.Caption 14/14
+expect frmNavigation.cmdAction(1).Enabled False

@@ -1,11 +1,20 @@
 # What the lesson FirstLink.txt lets the user do, page by page, and what it promises.
-# A lesson starts with the maker's values; its restart leaves board 5 in IOS 0, all sixteen pins inputs.
-#ini IOS-QVT50=0
+# It starts with the maker's values whatever the bench was like.
+#ini CPUTYPE=3
+#ini CABLECONNECTION=0
+#ini OPENWINDOW1=0
+dblclick frmMDI.lblNagigator
+expect frmNaviList.lstTitle.List(0) "レッスン1  はじめての Zelmar リンク"
+select frmNaviList.lstTitle 0
+click frmNaviList.cmdStart
+expect frmNavigation.lblIndex.Caption 1/14
 wait 100
 expect frmRegister.Visible True
 expect frmDumpCDIO.Visible True
 expect cpuType 0
 # 2: five boards answer
+click frmNavigation.cmdAction(1)
+expect frmNavigation.lblIndex.Caption 2/14
 expect frmHard.lblBoardName(0).Caption QVT60
 expect frmHard.lblBoardName(1).Caption QVT40
 expect frmHard.lblBoardName(4).Caption QVT40
@@ -16,6 +25,8 @@ expect frmHard.picBoard(2).Visible True
 expect frmHard.picBoard(4).Visible True
 expect peek 0x000 00 00 00 00 00 00 00 00 00 00 00 00
 # 3: station addresses on the dials; the slaves take the next one
+click frmNavigation.cmdAction(1)
+expect frmNavigation.lblIndex.Caption 3/14
 expect saSetting(0) 1
 expect saSetting(1) 3
 expect saSetting(2) 5
@@ -24,10 +35,14 @@ expect frmHard.picSA(1).Picture "ilsRSW 2"
 expect frmHard.picSA(3).Picture "ilsRSW 4"
 expect frmHard.picSA(5).Picture "ilsRSW 6"
 # 4: the scan from 01 to 05 runs
+click frmNavigation.cmdAction(1)
+expect frmNavigation.lblIndex.Caption 4/14
 expect frmHard.picScanLed.Picture "ilsLED_G 2"
 expect continuousScanActive -1
 expect finalStation 5
 # 5: STOP holds, SLOW goes round from 81 to 85
+click frmNavigation.cmdAction(1)
+expect frmNavigation.lblIndex.Caption 5/14
 expect frmMDI.lblRunMode(1).Caption STOP
 expect frmMDI.lblRunMode(2).Caption SLOW
 click frmMDI.lblRunMode(1)
@@ -45,6 +60,8 @@ expect frmRegister.lblValL(2).Caption 85
 wait 300
 expect frmRegister.lblValL(2).Caption 81
 # 6: 1-Time, a station and a sound a click; then RUN
+click frmNavigation.cmdAction(1)
+expect frmNavigation.lblIndex.Caption 6/14
 expect frmMDI.lblRunMode(3).Caption 1-Time
 click frmMDI.lblRunMode(3)
 expect frmRegister.lblValL(2).Caption 82
@@ -55,6 +72,8 @@ expect beeps 2
 click frmMDI.lblRunMode(0)
 expect runMode 0
 # 7: the memory window, brought to the front, with its rows of control words, DO and DI
+click frmNavigation.cmdAction(1)
+expect frmNavigation.lblIndex.Caption 7/14
 expect frmDumpCDIO.Caption "Memory dump - Control + DI + DO"
 activate frmDumpCDIO
 expect frmDumpCDIO.lblAdr(0).Caption 00x
@@ -62,6 +81,8 @@ expect frmDumpCDIO.lblAdr(8).Caption 08x
 expect frmDumpCDIO.lblAdr(16).Caption 10x
 expect frmDumpCDIO.piMode 1
 # 8: DI 0 of board 1 in row 10x, columns -3 and ,2
+click frmNavigation.cmdAction(1)
+expect frmNavigation.lblIndex.Caption 8/14
 expect frmDumpCDIO.lblOff(12).Caption "-3"
 expect frmDumpCDIO.lblOff(13).Caption ",2"
 click frmHard.picPI(0)
@@ -70,6 +91,8 @@ wait 100
 expect frmDumpCDIO.lblData(268).Caption 00
 expect frmDumpCDIO.lblData(269).Caption 01
 # 9: red for some five seconds; the other switches
+click frmNavigation.cmdAction(1)
+expect frmNavigation.lblIndex.Caption 9/14
 expect frmDumpCDIO.lblData(269).ForeColor 255
 wait 3800
 expect frmDumpCDIO.lblData(269).ForeColor 255
@@ -83,6 +106,8 @@ click frmHard.picPI(2)
 wait 100
 expect frmDumpCDIO.lblData(269).Caption 06
 # 10: pointing; board 5 is station 05, in the columns -B and ,A
+click frmNavigation.cmdAction(1)
+expect frmNavigation.lblIndex.Caption 10/14
 move frmDumpCDIO.lblData(269)
 expect frmDumpCDIO.lblPointAddress.Caption " Pointing Address = 102H ( 258) : 06"
 expect frmDumpCDIO.lblPointSA.Caption " Pointing SA = 01H  ( 1)"
@@ -96,6 +121,8 @@ expect frmDumpCDIO.lblData(261).Caption 01
 move frmDumpCDIO.lblData(261)
 expect frmDumpCDIO.lblPointSA.Caption " Pointing SA = 05H  ( 5)"
 # 11: a DO word lights an LED
+click frmNavigation.cmdAction(1)
+expect frmNavigation.lblIndex.Caption 11/14
 dblclick frmDumpCDIO.lblData(141)
 expect frmEditMemory.Caption "Memory Write"
 expect frmEditMemory.cmdAction(0).Caption Write
@@ -105,6 +132,8 @@ wait 100
 expect frmHard.picPO(0).Tag O1
 expect frmHard.picPO(1).Tag O0
 # 12: every other LED, all sixteen; DI is protected
+click frmNavigation.cmdAction(1)
+expect frmNavigation.lblIndex.Caption 12/14
 dblclick frmDumpCDIO.lblData(140)
 type frmEditMemory.txtWriteData 5555
 click frmEditMemory.cmdAction(0)
@@ -123,6 +152,8 @@ dblclick frmDumpCDIO.lblData(269)
 expect frmMessage.lblMessage.Caption スキャン中はライトプロテクト
 expect frmEditMemory.Visible False
 # 13: CLR, held and let go
+click frmNavigation.cmdAction(1)
+expect frmNavigation.lblIndex.Caption 13/14
 dblpress frmHard.picCLR(0)
 expect frmHard.picPO(0).Tag O0
 expect frmHard.picPO(15).Tag O0
@@ -133,3 +164,7 @@ release frmHard.picCLR(0)
 wait 100
 expect frmHard.picPO(0).Tag O1
 expect frmHard.picPO(15).Tag O1
+# 14: the end
+click frmNavigation.cmdAction(1)
+expect frmNavigation.lblIndex.Caption 14/14
+expect frmNavigation.cmdAction(1).Enabled False

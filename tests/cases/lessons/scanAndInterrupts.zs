@@ -1,15 +1,27 @@
 # What the lesson ScanAndInterrupts.txt lets the user do, page by page, and what it promises.
-# A lesson starts with the maker's values; its restart leaves board 5 in IOS 0, all sixteen pins inputs.
-#ini IOS-QVT50=0
+# It starts with the maker's values whatever the bench was like.
+#ini CPUTYPE=3
+#ini CABLECONNECTION=0
+#ini OPENWINDOW1=0
+dblclick frmMDI.lblNagigator
+expect frmNaviList.lstTitle.List(2) "レッスン3  スキャンと割り込み"
+select frmNaviList.lstTitle 2
+click frmNaviList.cmdStart
+expect frmNavigation.lblIndex.Caption 1/14
 wait 100
-# 1: eight registers
+# 1: eight registers, and the hints
 expect frmRegister.Visible True
+expect frmHint.Visible True
 expect frmRegister.lblReg(1).Caption SCR
 expect frmRegister.lblReg(8).Caption BCR
 # 2: 0 in SCR ends the scan behind station 05
+click frmNavigation.cmdAction(1)
+expect frmNavigation.lblIndex.Caption 2/14
 expect frmRegister.lblValL(1).Caption 05
 dblclick frmRegister.lblValL(1)
 expect frmEditRegister.Caption "Register Write"
+expect frmHint.tabHint.TabCaption(0) SCR
+expect frmHint.tabHint.Tab 0
 expect frmEditRegister.cmdAction(0).Caption Write
 type frmEditRegister.txtWriteData 0000
 click frmEditRegister.cmdAction(0)
@@ -18,11 +30,15 @@ expect frmHard.picScanLed.Picture "ilsLED_G 1"
 expect frmRegister.lblValH(2).Caption 00
 expect frmRegister.lblValL(2).Caption 00
 # 3: no scan, no DI
+click frmNavigation.cmdAction(1)
+expect frmNavigation.lblIndex.Caption 3/14
 click frmHard.picPI(0)
 wait 500
 expect frmHard.picPI(0).Tag I1
 expect frmDumpCDIO.lblData(269).Caption 00
 # 4: one cycle
+click frmNavigation.cmdAction(1)
+expect frmNavigation.lblIndex.Caption 4/14
 dblclick frmRegister.lblValL(1)
 type frmEditRegister.txtWriteData 0500
 click frmEditRegister.cmdAction(0)
@@ -35,6 +51,8 @@ expect frmRegister.lblValH(1).Caption 00
 expect frmRegister.lblValL(1).Caption 00
 expect frmHard.picScanLed.Picture "ilsLED_G 1"
 # 5: both at once are refused; then the continuous scan again
+click frmNavigation.cmdAction(1)
+expect frmNavigation.lblIndex.Caption 5/14
 dblclick frmRegister.lblValL(1)
 type frmEditRegister.txtWriteData 0505
 click frmEditRegister.cmdAction(0)
@@ -46,6 +64,8 @@ click frmEditRegister.cmdAction(0)
 wait 100
 expect frmHard.picScanLed.Picture "ilsLED_G 2"
 # 6: refused registers
+click frmNavigation.cmdAction(1)
+expect frmNavigation.lblIndex.Caption 6/14
 dblclick frmRegister.lblValL(2)
 expect frmMessage.lblMessage.Caption このレジスタはリードオンリーです。
 expect frmEditRegister.Visible False
@@ -53,6 +73,8 @@ dblclick frmRegister.lblValL(8)
 expect frmMessage.lblMessage.Caption スキャン中はライトプロテクト。
 expect frmEditRegister.Visible False
 # 7: the mask lets DI 0 of station 01 through
+click frmNavigation.cmdAction(1)
+expect frmNavigation.lblIndex.Caption 7/14
 expect frmMDI.lblMemoryWindow.Caption "Memory Window"
 click frmMDI.lblMemoryWindow
 expect frmDumpSel.cmdAREA(2).Caption DRC
@@ -64,7 +86,11 @@ type frmEditMemory.txtWriteData 0001
 click frmEditMemory.cmdAction(0)
 expect peek 0x500 00 00 01 00 00 00
 # 8: the interrupt
+click frmNavigation.cmdAction(1)
+expect frmNavigation.lblIndex.Caption 8/14
 dblclick frmRegister.lblValL(4)
+expect frmHint.tabHint.TabCaption(3) INT0R
+expect frmHint.tabHint.Tab 3
 type frmEditRegister.txtWriteData 0100
 click frmEditRegister.cmdAction(0)
 wait 100
@@ -76,6 +102,8 @@ expect frmRegister.lblValL(4).Caption 01
 expect frmHard.picInt.Visible True
 expect frmHard.picInt.Picture "ilsInt 2"
 # 9: a 1 clears
+click frmNavigation.cmdAction(1)
+expect frmNavigation.lblIndex.Caption 9/14
 dblclick frmRegister.lblValL(4)
 type frmEditRegister.txtWriteData 0101
 click frmEditRegister.cmdAction(0)
@@ -83,11 +111,15 @@ wait 100
 expect peek 0x586 00 01
 expect frmHard.picInt.Visible False
 # 10: DI 1 is masked out
+click frmNavigation.cmdAction(1)
+expect frmNavigation.lblIndex.Caption 10/14
 click frmHard.picPI(1)
 wait 100
 expect frmDumpCDIO.lblData(269).Caption 02
 expect peek 0x586 00 01
 # 11: the halt
+click frmNavigation.cmdAction(1)
+expect frmNavigation.lblIndex.Caption 11/14
 dblclick frmRegister.lblValL(4)
 type frmEditRegister.txtWriteData 0400
 click frmEditRegister.cmdAction(0)
@@ -103,6 +135,8 @@ expect currentStation 1
 expect frmHard.picScanLed.Picture "ilsLED_G 2"
 expect frmDumpCDIO.lblData(269).Caption 03
 # 12: nothing moves in the halt; then it goes on with what has waited
+click frmNavigation.cmdAction(1)
+expect frmNavigation.lblIndex.Caption 12/14
 click frmHard.picPI(1)
 wait 500
 expect frmDumpCDIO.lblData(269).Caption 03
@@ -114,6 +148,8 @@ expect peek 0x586 00 04
 expect frmDumpCDIO.lblData(269).Caption 01
 expect peek 0x583 00
 # 13: the end of the scan as an interrupt
+click frmNavigation.cmdAction(1)
+expect frmNavigation.lblIndex.Caption 13/14
 dblclick frmRegister.lblValL(4)
 type frmEditRegister.txtWriteData 8000
 click frmEditRegister.cmdAction(0)
@@ -136,6 +172,8 @@ wait 100
 expect frmHard.picScanLed.Picture "ilsLED_G 2"
 expect continuousScanActive -1
 # 14: INT1R has no bits 0 to 2
+click frmNavigation.cmdAction(1)
+expect frmNavigation.lblIndex.Caption 14/14
 dblclick frmRegister.lblValL(5)
 type frmEditRegister.txtWriteData FF00
 click frmEditRegister.cmdAction(0)
