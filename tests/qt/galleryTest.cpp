@@ -25,6 +25,7 @@
 #include "ui/qt/drawing.h"
 #include "ui/qt/qtPlatform.h"
 #include "ui/qt/windows.h"
+#include "ui/textExtent.h"
 
 namespace zelvs {
 namespace {
@@ -339,6 +340,33 @@ TEST_F(GalleryTest, DrawnLinesAreAlikeAtEveryScale) {
       before = black;
     }
     EXPECT_EQ(widths, std::vector<int>(9, width)) << scale;
+  }
+}
+
+TEST_F(GalleryTest, TextIsAsWideAsTheModelCounts) {
+  // Coloured pieces of a line are placed by that count; letters come in whole pixels, of which 11 points have none.
+  constexpr int kLetters = 20;
+  Label& label = frmGallery->lblText;
+  label.move(0, 4400, 5900, 600);
+  label.ForeColor = kBlack;
+  std::string blocks;
+  for (int i = 0; i < kLetters; ++i)
+    blocks += "■";
+  label.Caption = blocks;
+  for (const double points : {9.0, 10.0, 11.0, 12.0, 13.0, 14.0}) {
+    label.FontSize = points;
+    QImage image(400, 360, QImage::Format_RGB32);
+    image.fill(Qt::white);
+    QPainter painter(&image);
+    drawControls(painter, *frmGallery, QRegion(0, 0, 400, 360));
+    painter.end();
+    int end = 0;
+    for (int y = 294; y < 332; ++y)
+      for (int x = 0; x < 400; ++x)
+        if (image.pixelColor(x, y).lightness() < 100) end = std::max(end, x + 1);
+    const double em = textWidth("■", points) / kTwipsPerPixel;
+    EXPECT_LE(end, kLetters * em) << points;
+    EXPECT_GT(end, (kLetters - 0.25) * em) << points;
   }
 }
 

@@ -84,6 +84,9 @@ Letters& lettersOf(double points, bool bold) {
   if (letters == nullptr) {
     letters = std::make_shared<Letters>();
     letters->font = fontOf(points, bold);
+    // Letters come in whole pixels, while the model counts with the exact size: pieces of a line would not join.
+    const double drawnEm = QFontMetricsF(letters->font).horizontalAdvance(QChar(0x3042));
+    letters->font.setLetterSpacing(QFont::PercentageSpacing, 100 * emOf(points) / drawnEm);
     letters->ascent = QFontMetricsF(letters->font).ascent();
   }
   return *letters;
