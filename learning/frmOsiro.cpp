@@ -13,10 +13,17 @@ FrmOsiro::FrmOsiro() : Form("frmOsiro", kKind, Border::Fixed) {
   Height = kPictureHeight + platform().captionHeight();
   picSTB.BackColor = kWhite;
   picSTB.move(0, 0, kPictureWidth, kPictureHeight);
+  lblUntouched.Caption = "スイッチ SSA と SSB を一度切り替えると、説明が表示されます。";
+  lblUntouched.Align = Alignment::Center;
+  lblUntouched.ForeColor = 0x808080;
+  lblUntouched.FontSize = 10;
+  lblUntouched.move(0, kPictureHeight / 2 - 150, kPictureWidth, 300);
 }
 
 void FrmOsiro::initPicture(int number) {
-  if (number >= 1 && number <= ilsOsiro.count()) picSTB.Picture = ilsOsiro.image(number);
+  if (number < 1 || number > ilsOsiro.count()) return;
+  picSTB.Picture = ilsOsiro.image(number);
+  lblUntouched.Visible = false;
 }
 
 }  // namespace zelvs

@@ -13,6 +13,7 @@ class FrmOsiro final : public Form {
 
   ImageList ilsOsiro{"ilsOsiro", 4};  // SSA and SSB low, SSA high, SSB high, both high
   PictureBox picSTB{this, "picSTB"};
+  Label lblUntouched{this, "lblUntouched"};  // in the picture's place until the switches have been moved once
 
   /// Shows image 1 to 4; any other number leaves the picture.
   void initPicture(int number);

@@ -87,12 +87,36 @@ screenshot frmDialog dialog.png
 click frmDialog.cmdAction(0)
 screenshot frmHard panel-half-duplex.png
 
+# Schematics: of a master in half duplex, and of the center board; what SSA and SSB do.
+dblclick frmHard.picQVT(1)
+screenshot frmKAIROZU schematic-qvt40-half.png
+dblclick frmHard.picJumper(0)
+click frmDialog.cmdAction(0)
+activate frmHard
+dblclick frmHard.picQVT(0)
+screenshot frmKAIROZU schematic-qvt60.png
+close frmKAIROZU
+dblclick frmHard.picSSA(0)
+dblclick frmHard.picSSB(0)
+screenshot frmOsiro stb.png
+close frmOsiro
+dblclick frmHard.picJumper(0)
+click frmDialog.cmdAction(0)
+click frmDialog.cmdAction(0)
+
 dblclick frmHard.picBOARD1_RXD(0)
 click frmHard.picCableUp(1)
 click frmHard.picCableUp(2)
 dblclick frmHard.picBridge(0)
 dblclick frmHard.picBridge(1)
 screenshot frmHard panel-nothing-connected.png
+
+# The hints, and the settings.
+select frmHint.tabHint 6
+screenshot frmHint hint.png
+click frmMDI.lblDefault
+screenshot frmDefault defaults.png
+click frmDefault.cmdAction(0)
 
 # A lesson; its start puts the bench back to the maker's settings.
 dblclick frmMDI.lblNagigator

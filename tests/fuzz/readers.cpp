@@ -19,7 +19,7 @@
 namespace zelvs {
 namespace {
 
-constexpr int kRounds = 600;
+constexpr int kRounds = 400;
 
 class RandomBytesTest : public ProgramTest {
  protected:

@@ -6,9 +6,11 @@ expect frmOsiro.Visible True
 expect frmOsiro.Top 4000
 expect frmOsiro.Left 7900
 expect frmOsiro.picSTB.Picture none
+expect frmOsiro.lblUntouched.Visible True
 dblclick frmHard.picSSA(0)
 dblclick frmHard.picSSB(0)
 expect frmOsiro.picSTB.Picture "ilsOsiro 4"
+expect frmOsiro.lblUntouched.Visible False
 dblclick frmHard.picSSA(0)
 expect frmHard.picSSA(0).Tag 0
 expect frmOsiro.picSTB.Picture "ilsOsiro 3"
