@@ -3,8 +3,9 @@
 #include <malloc.h>
 
 #include <cstddef>
+
 #if defined(__SANITIZE_ADDRESS__)
-#include <sanitizer/allocator_interface.h>
+extern "C" std::size_t __sanitizer_get_current_allocated_bytes();  // not every compiler ships its header
 #endif
 
 namespace zelvs {
