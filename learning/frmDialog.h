@@ -18,6 +18,9 @@ class FrmDialog final : public Form {
   ControlArray<CommandButton> cmdAction{this, "cmdAction", 0, 1};  // OK, cancel
 
   std::int16_t dialogResult = 0;  ///< 1 OK, 2 cancel
+
+ protected:
+  void activated() override;
 };
 
 inline FormRef<FrmDialog> frmDialog{"frmDialog"};

@@ -5,6 +5,7 @@
 #include "shell/frmMDI.h"
 #include "shell/iniFile.h"
 #include "shell/restart.h"
+#include "ui/desk.h"
 #include "ui/platform.h"
 
 namespace zelvs {
@@ -61,6 +62,7 @@ FrmNaviList::FrmNaviList() : Form("frmNaviList", kKind, Border::Fixed) {
   cmdCancel.Caption = "Cancel";
   cmdCancel.move(kWidth - kMargin - 1215, kButtonTop, 1215, kButtonHeight);
 
+  cmdStart.Default = true;
   cmdStart.onClick = cmdStart_Click;
   cmdCancel.onClick = [this] { hide(); };
 }
@@ -74,6 +76,10 @@ void FrmNaviList::load() {
   lstTitle.Visible = !empty;
   lblNoFile.Visible = empty;
   cmdStart.Enabled = !empty;
+}
+
+void FrmNaviList::activated() {
+  desk().focus(&lstTitle);
 }
 
 bool FrmNaviList::queryUnload(bool byUser) {

@@ -20,6 +20,7 @@ class FrmNaviList final : public Form {
 
  protected:
   void load() override;
+  void activated() override;
   bool queryUnload(bool byUser) override;
 };
 

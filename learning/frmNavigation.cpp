@@ -7,6 +7,7 @@
 #include "learning/frmNaviList.h"
 #include "learning/naviIndex.h"
 #include "shell/frmMDI.h"
+#include "ui/desk.h"
 #include "ui/platform.h"
 #include "ui/runTimeError.h"
 #include "ui/textFile.h"
@@ -82,6 +83,10 @@ void FrmNavigation::load() {
   constexpr double kHeight = 1785;
   if (Width < kLeastWidth) Width = kLeastWidth;
   Height = kHeight;
+}
+
+void FrmNavigation::activated() {
+  if (activeControl() == nullptr) desk().focus(&cmdAction(1));
 }
 
 void FrmNavigation::resized() {

@@ -38,6 +38,7 @@ class FrmNavigation final : public Form {
 
  protected:
   void load() override;
+  void activated() override;
   void resized() override;
 
  private:

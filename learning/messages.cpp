@@ -9,6 +9,7 @@
 #include "learning/frmDialog.h"
 #include "learning/frmMessage.h"
 #include "shell/frmMDI.h"
+#include "ui/desk.h"
 #include "ui/platform.h"
 
 namespace zelvs {
@@ -56,6 +57,7 @@ FrmMessage::FrmMessage() : Form("frmMessage", kKind, Border::None) {
 }
 
 void FrmMessage::activated() {
+  timErase.Enabled = false;  // one that still runs for the message before would cut this one short
   timErase.Interval = 1000;
   timErase.Enabled = true;
 }
@@ -85,6 +87,10 @@ FrmDialog::FrmDialog() : Form("frmDialog", kKind, Border::None) {
     button.Height = 375;
   }
   cmdAction.on(&Control::onClick, cmdAction_Click);
+}
+
+void FrmDialog::activated() {
+  desk().focus(&cmdAction(0));  // the keyboard answers at once
 }
 
 void showMessage(std::string_view text) {

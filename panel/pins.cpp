@@ -210,6 +210,7 @@ constexpr std::array<Offset, 5> kExplanationPlaces = {
 void explainStb(int board) {
   const Offset& place = kExplanationPlaces[static_cast<std::size_t>(std::min(board, 4))];
   frmOsiro->move(frmHard->Left + place.left, frmHard->Top + place.top);
+  frmOsiro->keepOnScreen();
   showStbPicture(board);
   if (!frmOsiro.visible()) frmOsiro->show(ShowMode::Modeless, frmMDI.get());
 }

@@ -11,6 +11,7 @@
 #include "shell/frmMDI.h"
 #include "shell/iniFile.h"
 #include "shell/restart.h"
+#include "ui/desk.h"
 #include "ui/platform.h"
 
 namespace zelvs {
@@ -100,7 +101,7 @@ struct Placed {
 
 constexpr double kPixel = 15;
 constexpr double kWidth = 652;
-constexpr double kInside = 482;
+constexpr double kInside = 480;
 
 }  // namespace
 
@@ -160,10 +161,10 @@ FrmDefault::FrmDefault() : Form("frmDefault", kKind, Border::Fixed) {
 
       {cmdAction(2), "設定をファイルに保存", 12, 406, 160, 28},
       {lblDesc(0), "（※次回立ち上げ時に設定が反映)", 180, 413, 250, 18},
-      {cmdAction(1), "今すぐ設定", 12, 442, 160, 28},
-      {lblDesc(1), "（※セット状態からリスタートします)", 180, 449, 250, 18},
+      {cmdAction(1), "今すぐ設定", 12, 440, 160, 28},
+      {lblDesc(1), "（※セット状態からリスタートします)", 180, 447, 250, 18},
       {cmdAction(3), "メーカ推奨値に戻す", 492, 406, 148, 28},
-      {cmdAction(0), "閉じる", 492, 442, 148, 28},
+      {cmdAction(0), "閉じる", 492, 440, 148, 28},
   };
   for (const Placed& row : rows) {
     if (row.container != nullptr) row.control.placeIn(*row.container);
@@ -193,7 +194,7 @@ void FrmDefault::load() {
 
 void FrmDefault::activated() {
   setTopmost();
-  keepOnScreen();
+  if (activeControl() == nullptr) desk().focus(&chkDef(2));  // the first one by its place
 }
 
 bool FrmDefault::queryUnload(bool byUser) {

@@ -73,6 +73,7 @@ void lblRegisterHint_Click() {
 void lblDefault_Click() {
   hideDumpSel();
   frmDefault->move(4700, 4000);
+  frmDefault->keepOnScreen();
   frmDefault->show();
 }
 

@@ -169,11 +169,17 @@ std::string withValue(const std::string& text, std::string_view section, std::st
   return result;
 }
 
-bool writeWhole(const fs::path& path, const std::string& text) {
-  std::FILE* file = std::fopen(path.c_str(), "wb");
+bool writeAndClose(std::FILE* file, const std::string& text) {
   if (file == nullptr) return false;
   const bool written = std::fwrite(text.data(), 1, text.size(), file) == text.size() && std::fflush(file) == 0;
   return std::fclose(file) == 0 && written;
+}
+
+bool writeOver(const fs::path& path, const std::string& text) {
+  const bool written = writeAndClose(std::fopen(path.c_str(), "r+b"), text);
+  std::error_code error;
+  if (written) fs::resize_file(path, text.size(), error);
+  return written && !error;
 }
 
 bool writable(const fs::path& path) {
@@ -206,7 +212,13 @@ void writeIniValues(std::string_view section, const std::vector<IniValue>& value
     text = withValue(text, section, key, value);
   fs::path fresh = path;
   fresh += ".new";
-  if (writeWhole(fresh, text)) {
+  std::FILE* file = std::fopen(fresh.c_str(), "wb");
+  if (file == nullptr) {
+    // The folder takes no second file. Should the disk be full, the old text has its room still.
+    if (old && !writeOver(path, text)) writeOver(path, *old);
+    return;
+  }
+  if (writeAndClose(file, text)) {
     if (old) fs::permissions(fresh, fs::status(path, error).permissions(), error);
     fs::rename(fresh, path, error);
     if (!error) return;

@@ -36,8 +36,8 @@ struct IniValue {
   std::string value;
 };
 /// Writes keys into iniFilePath, in their order where they are new, and keeps every other line. The new file takes the
-/// place of the old one only when it is whole: a disk that fills up, a file or a folder that cannot be written leave
-/// everything as it was, without a word.
+/// place of the old one only when it is whole; in a folder that takes no new file the old one is written over. A disk
+/// that fills up and a file that may not be written leave everything as it was, without a word.
 void writeIniValues(std::string_view section, const std::vector<IniValue>& values);
 void writeIniValue(std::string_view section, std::string_view key, std::string_view value);
 

@@ -1,6 +1,7 @@
 #include "ui/desk.h"
 
 #include <algorithm>
+#include <utility>
 
 #include "ui/platform.h"
 #include "ui/runTimeError.h"
@@ -15,7 +16,8 @@ Platform* thePlatform = nullptr;
 int layerOf(const Form& form) {
   enum { kTopmost, kWindow, kFloatingChild, kChild, kFrame };
   if (form.kind() == FormKind::Frame) return kFrame;
-  if (form.topmost()) return kTopmost;
+  // A modal one holds the user: behind a window that always stays in front it could not be answered.
+  if (form.topmost() || form.modal()) return kTopmost;
   if (form.kind() == FormKind::Window) return kWindow;
   return form.floating() ? kFloatingChild : kChild;
 }
@@ -79,6 +81,7 @@ void Desk::raise(Form& form) {
 }
 
 void Desk::show(Form& form, ShowMode mode, Form* owner) {
+  if (ended_) return;  // what runs on behind the end of the program shows nothing any more
   const Event event;
   if (mode == ShowMode::Modal && form.visible_) runTimeError(form.name() + " is visible and cannot be shown modally");
   form.owner_ = owner;
@@ -99,7 +102,7 @@ void Desk::hide(Form& form) {
   if (!form.visible_) return;
   const Event event;
   form.visible_ = false;
-  form.modal_ = false;
+  if (std::exchange(form.modal_, false)) raise(form);  // back among its like
   std::erase(modals_, &form);
   if (focused_ != nullptr && &focused_->form() == &form) focus(nullptr);
   platform().formHidden(form);

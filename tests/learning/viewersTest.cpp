@@ -35,6 +35,45 @@ class ViewersTest : public ProgramTest {
   }
 };
 
+TEST_F(ViewersTest, TheWindowFitsEachPictureAnew) {
+  folder.write("Kairozu/QVT40_NEST.BMP", bitmapOf(200, 90));
+  const auto size = [] { return std::pair<double, double>(frmKAIROZU->Width, frmKAIROZU->Height); };
+  frmKAIROZU->setKAIROZU(0);
+  EXPECT_EQ(size(), std::pair(100 * 15.0, 60 * 15.0 + 300));
+  frmKAIROZU->setKAIROZU(2);
+  EXPECT_EQ(size(), std::pair(200 * 15.0, 90 * 15.0 + 300));
+  frmKAIROZU->setKAIROZU(0);
+  EXPECT_EQ(size(), std::pair(100 * 15.0, 60 * 15.0 + 300));
+}
+
+TEST_F(ViewersTest, TheMotorBoardShowsTheIoBoardWithItsOverlay) {
+  boardFullHalf = 0;
+  frmKAIROZU->setKAIROZU(6);
+  EXPECT_EQ(main(), "QVT50_IOS_0.BMP");
+  EXPECT_EQ(overlay(), "Qvt50_add_half.bmp");
+}
+
+TEST_F(ViewersTest, ABoardThatIsNotThereHasNoPicture) {
+  for (const int board : {-1, 7}) {
+    frmKAIROZU->setKAIROZU(board);
+    EXPECT_TRUE(frmKAIROZU->picKAIROZU.Picture.get().none());
+    EXPECT_EQ(overlay(), "");
+  }
+}
+
+TEST_F(ViewersTest, TheSecondSlaveConnectorTellsBoard5InsteadOfBoard3) {
+  doubleClick(frmHard->picBridge(1));
+  frmKAIROZU->setKAIROZU(3);
+  EXPECT_EQ(main(), "QVT40_FULL.BMP");
+  doubleClick(frmHard->picFConn(2));
+  EXPECT_EQ(main(), "QVT40_FULL.BMP") << "what it should follow";
+  doubleClick(frmHard->picBridge(0));
+  frmKAIROZU->setKAIROZU(1);
+  EXPECT_EQ(main(), "QVT40_FULL.BMP");
+  doubleClick(frmHard->picFConn(0));
+  EXPECT_EQ(main(), "QVT40_FULL_NEST.BMP");
+}
+
 TEST_F(ViewersTest, EachBoardHasItsSchematic) {
   struct Row {
     int board;

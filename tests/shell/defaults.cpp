@@ -85,6 +85,29 @@ TEST_F(DefaultsTest, TheLabelShowsItInFrontAndClosesTheDropDown) {
   EXPECT_EQ(desk().forms().front(), frmDefault.get()) << "stays above the window that the user turned to";
 }
 
+TEST_F(DefaultsTest, ItStaysWhereTheUserHasPutIt) {
+  open();
+  frmDefault->move(20000, 9000);  // partly off the screen
+  EXPECT_EQ(gesture::activate(*frmHard), "");
+  EXPECT_EQ(gesture::activate(*frmDefault), "");
+  EXPECT_EQ(frmDefault->Left.get(), 20000.0);
+  EXPECT_EQ(frmDefault->Top.get(), 9000.0);
+}
+
+TEST_F(DefaultsTest, AQuestionStandsInFrontOfIt) {
+  open();
+  chipMemory[kScrLow] = 0;
+  platform.advance(100);
+  bool asked = false;
+  platform.onModal = [&](Form& form) {
+    asked = true;
+    EXPECT_EQ(desk().forms().front(), &form);
+    form.hide();
+  };
+  EXPECT_EQ(gesture::doubleClick(*frmHard, &frmHard->picJumper(0)), "");
+  EXPECT_TRUE(asked);
+}
+
 TEST_F(DefaultsTest, ItsTexts) {
   open();
   const FrmDefault& form = *frmDefault;

@@ -3,10 +3,13 @@
 #include "shell/iniFile.h"
 
 #include <fcntl.h>
+#include <sys/resource.h>
 #include <sys/stat.h>
 #include <unistd.h>
 
 #include <chrono>
+#include <csignal>
+#include <cstdlib>
 #include <filesystem>
 #include <string>
 #include <vector>
@@ -356,13 +359,44 @@ TEST_F(IniFileTest, AFolderThatCannotBeWrittenIsNothingToTalkAbout) {
   EXPECT_EQ(names(), std::vector<std::string>{"file"});
 }
 
-TEST_F(IniFileTest, AFolderWithoutWriteModeKeepsItsFile) {
-  if (geteuid() == 0) GTEST_SKIP() << "an administrator may write into any folder";
-  write("[INIT]\r\nKEY=7\r\n");
+/// As somebody who may not write everywhere: an administrator may. Runs in a process of its own.
+template <class Work>
+void asPlainUser(Work work) {
+  EXPECT_EXIT(
+      {
+        if (geteuid() == 0) setuid(65534);
+        work();
+        std::exit(0);
+      },
+      testing::ExitedWithCode(0), "");
+}
+
+TEST_F(IniFileTest, InAFolderThatTakesNoNewFileTheOldOneIsWrittenOver) {
+  for (const char* old : {"[INIT]\r\nKEY=7\r\nA=1\r\n", "[INIT]\r\nKEY=1234567\r\nA=1\r\n", "A=1\r\n[INIT]\r\n"}) {
+    write(old);
+    ASSERT_EQ(chmod(iniFilePath.c_str(), 0666), 0);
+    ASSERT_EQ(chmod(folder.path().c_str(), 0555), 0);
+    asPlainUser([] { writeIniValue("INIT", "KEY", "90"); });
+    ASSERT_EQ(chmod(folder.path().c_str(), 0755), 0);
+    EXPECT_EQ(get("KEY"), "90");
+    EXPECT_NE(read().find("A=1\r\n"), std::string::npos);
+    EXPECT_EQ(read().substr(read().size() - 2), "\r\n") << "nothing of a longer text is left behind it";
+    EXPECT_EQ(names(), std::vector<std::string>{"ZELVS.INI"});
+  }
+}
+
+TEST_F(IniFileTest, ThereAFullDiskLeavesTheOldTextToo) {
+  write("[INIT]\r\nA=1\r\n");
+  ASSERT_EQ(chmod(iniFilePath.c_str(), 0666), 0);
   ASSERT_EQ(chmod(folder.path().c_str(), 0555), 0);
-  writeIniValue("INIT", "KEY", "9");
+  asPlainUser([] {
+    std::signal(SIGXFSZ, SIG_IGN);
+    const rlimit full{16, 16};  // more than the old text, less than the new one
+    setrlimit(RLIMIT_FSIZE, &full);
+    writeIniValue("INIT", "KEY", "9");
+  });
   ASSERT_EQ(chmod(folder.path().c_str(), 0755), 0);
-  EXPECT_EQ(read(), "[INIT]\r\nKEY=7\r\n");
+  EXPECT_EQ(read(), "[INIT]\r\nA=1\r\n");
 }
 
 TEST_F(IniFileTest, ALinkStaysALink) {

@@ -114,6 +114,39 @@ TEST_F(MessageTest, ASecondMessageTakesThePlaceOfTheFirst) {
   EXPECT_FALSE(frmMessage.visible());
 }
 
+TEST_F(MessageTest, AMessageThatComesUpAnewHasItsWholeTime) {
+  struct Row {
+    const char* name;
+    std::function<void()> between;
+  };
+  for (const Row& row : {Row{"hidden by a dialog", [] { frmMessage->hide(); }},
+                         Row{"left for another window", [] { frmHard->setFocus(); }}}) {
+    SCOPED_TRACE(row.name);
+    showMessage("first");
+    platform.advance(900);
+    row.between();
+    showMessage("second");
+    platform.advance(1900);
+    EXPECT_TRUE(frmMessage.visible());
+    platform.advance(100);
+    EXPECT_FALSE(frmMessage.visible());
+  }
+}
+
+TEST_F(MessageTest, TheKeyboardAnswersTheBoxAtOnce) {
+  for (const DialogMode mode : {DialogMode::TwoButtons, DialogMode::OneButton}) {
+    platform.onModal = [](Form& form) {
+      ASSERT_EQ(desk().focused(), &frmDialog->cmdAction(0));
+      EXPECT_EQ(gesture::keyDown(*desk().focused(), key::kEnter), "");
+      EXPECT_FALSE(form.visible());
+    };
+    EXPECT_EQ(askDialog("again?", mode, "title"), 1);
+    // The button that is pressed here is hidden the next time.
+    platform.onModal = [](Form& form) { EXPECT_EQ(gesture::click(form, &frmDialog->cmdAction(1)), ""); };
+    EXPECT_EQ(askDialog("again?", DialogMode::TwoButtons, "title"), 2);
+  }
+}
+
 TEST_F(MessageTest, AMessageBesideAWindowBelongsToIt) {
   platform.setPointer({1000, 1000});
   frmRegister->move(6809.9, 1100);  // cut to whole pixels: 453, 73

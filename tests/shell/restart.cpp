@@ -84,7 +84,6 @@ TEST_F(RestartTest, TheWindowsOfTheSettingsOpen) {
 TEST_F(RestartTest, HintsDefaultsAndSchematicAreHidden) {
   start();
   openWindow[2] = 0;
-  folder.write("seven.bmp", "");
   EXPECT_EQ(gesture::click(*frmMDI, &frmMDI->lblDefault), "");
   frmKAIROZU->show();
   frmDumpSel->show();

@@ -150,6 +150,35 @@ TEST_F(WindowOrderTest, OfTwoModalWindowsTheInnerOneHoldsTheUser) {
   EXPECT_EQ(desk().modal(), nullptr);
 }
 
+TEST_F(WindowOrderTest, AModalWindowLiesInFrontOfTopmostOnesForAsLongAsItIsModal) {
+  frmWindowA->setTopmost();
+  frmWindowA->show();
+  frmWindowC->show();
+  platform.onModal = [](Form& form) {
+    EXPECT_EQ(order(), (Names{"frmWindowB", "frmWindowA", "frmWindowC"}));
+    form.hide();
+  };
+  frmWindowB->show(ShowMode::Modal);
+  EXPECT_EQ(order(), (Names{"frmWindowA", "frmWindowC", "frmWindowB"})) << "the user is back at the third";
+  frmWindowB->show();
+  EXPECT_EQ(order(), (Names{"frmWindowA", "frmWindowB", "frmWindowC"})) << "not modal: one among its like";
+}
+
+TEST_F(WindowOrderTest, BehindTheEndNothingIsShown) {
+  frmWindowA->show();
+  desk().end();
+  bool asked = false;
+  platform.onModal = [&](Form& form) {
+    asked = true;
+    form.hide();
+  };
+  frmWindowB->show();
+  frmWindowC->show(ShowMode::Modal);
+  EXPECT_FALSE(frmWindowB.visible());
+  EXPECT_FALSE(frmWindowC.visible());
+  EXPECT_FALSE(asked);
+}
+
 TEST_F(WindowOrderTest, AModalWindowThatIsUnloadedLetsTheUserGo) {
   frmWindowA->show();
   platform.onModal = [](Form& form) { form.unload(); };

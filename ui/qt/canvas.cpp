@@ -4,6 +4,9 @@
 #include <QMouseEvent>
 #include <QPainter>
 #include <QToolTip>
+#include <algorithm>
+#include <utility>
+#include <vector>
 
 #include "ui/desk.h"
 #include "ui/gesture.h"
@@ -13,6 +16,21 @@
 #include "ui/qt/sprites.h"
 
 namespace zelvs {
+
+namespace {
+
+/// The Tab key goes line by line, and through all of a group before it goes on beside it.
+void appendInReadingOrder(std::vector<Control*> siblings, std::vector<Control*>& order) {
+  std::stable_sort(siblings.begin(), siblings.end(), [](const Control* a, const Control* b) {
+    return std::pair<double, double>(a->Top, a->Left) < std::pair<double, double>(b->Top, b->Left);
+  });
+  for (Control* control : siblings) {
+    order.push_back(control);
+    appendInReadingOrder(control->children(), order);
+  }
+}
+
+}  // namespace
 
 Canvas::Canvas(Form& form) : form_(&form) {
   setMouseTracking(true);
@@ -25,6 +43,18 @@ Canvas::Canvas(Form& form) : form_(&form) {
   }
   fitForm();
   showChanges(form.controls());
+}
+
+void Canvas::setTabOrderAsSeen() {
+  std::vector<Control*> order;
+  appendInReadingOrder(form_->topControls(), order);
+  QWidget* before = nullptr;
+  for (const Control* control : order) {
+    QWidget* widget = widgetOf(*control);
+    if (widget == nullptr) continue;
+    if (before != nullptr) setTabOrder(before, widget);
+    before = widget;
+  }
 }
 
 void Canvas::forgetForm() {

@@ -24,6 +24,8 @@ class Canvas final : public QWidget {
   void showChanges(const std::vector<Control*>& changed);
   /// The size of the form's inside.
   void fitForm();
+  /// The Tab key follows the look: called when the form is shown, since its controls may have moved.
+  void setTabOrderAsSeen();
   /// The widget that stands for a control, or null when the canvas paints it.
   QWidget* widgetOf(const Control& control) const { return widgets_.value(&control); }
 

@@ -157,6 +157,11 @@ class OpenList final : public Hosted<QListWidget> {
       static_cast<ComboBox&>(control()).Marked = currentRow();
     }
   }
+
+  /// Exactly one row is selected, whatever keys are held: a list cannot take its selection back.
+  QItemSelectionModel::SelectionFlags selectionCommand(const QModelIndex&, const QEvent*) const override {
+    return QItemSelectionModel::ClearAndSelect;
+  }
 };
 
 class Tabs final : public Hosted<QTabBar> {
@@ -245,6 +250,8 @@ QWidget* hostedWidget(Control& control, QWidget* canvas) {
 void showHosted(Control& control, QWidget& widget) {
   widget.setFont(fontOf(control.FontSize, control.FontBold));
   widget.setToolTip(QString::fromStdString(control.ToolTipText.get()));
+  // The toolkit would hand the focus to the next control, and the same key would go on there.
+  if (!control.usable() && widget.hasFocus()) widget.parentWidget()->setFocus(Qt::OtherFocusReason);
   widget.setEnabled(control.usable());
   QRect place = pixelsOf(control.area()).toAlignedRect();
   const QString caption = QString::fromStdString(control.Caption.get());

@@ -23,7 +23,9 @@ void tellUser(const std::string& text) {
   // Off-screen nobody could ever press OK.
   const QString platform = QGuiApplication::platformName();
   if (platform == "offscreen" || platform == "minimal") return;
-  QMessageBox::critical(nullptr, "ZEL-VS", QString::fromStdString(text));
+  QMessageBox box(QMessageBox::Critical, "ZEL-VS", QString::fromStdString(text), QMessageBox::Ok);
+  box.setWindowFlag(Qt::WindowStaysOnTopHint);  // in front of the splash
+  box.exec();
 }
 
 }  // namespace

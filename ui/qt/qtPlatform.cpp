@@ -66,6 +66,7 @@ bool QtPlatform::messageBox(const std::string& title, const std::string& text, M
                   QString::fromStdString(title), QString::fromStdString(text),
                   buttons == MessageButtons::Ok ? QMessageBox::Ok : QMessageBox::Ok | QMessageBox::Cancel,
                   modal != nullptr ? modal : windows_.frame());
+  box.setWindowFlag(Qt::WindowStaysOnTopHint);  // the splash and the lesson do so too
   return box.exec() == QMessageBox::Ok;
 }
 

@@ -161,9 +161,14 @@ void Windows::formShown(Form& form) {
     frame_->showMaximized();
     return;
   }
-  if (form.kind() == FormKind::Window)
+  if (form.kind() == FormKind::Window) {
     shown.window->setWindowModality(form.modal() ? Qt::ApplicationModal : Qt::NonModal);
+    const bool front = form.modal() || form.topmost();
+    if (shown.window->windowFlags().testFlag(Qt::WindowStaysOnTopHint) != front)
+      shown.window->setWindowFlag(Qt::WindowStaysOnTopHint, front);
+  }
   place(form, shown);
+  shown.canvas->setTabOrderAsSeen();
   shown.canvas->show();
   shown.window->show();
   // What changed while it was hidden has been left marked, and what is marked is not told of again.

@@ -1,0 +1,159 @@
+// The keyboard before real windows: what has the focus first, where Tab goes, and what a key must not run into.
+
+#include <gtest/gtest.h>
+
+#include <QApplication>
+#include <QKeyEvent>
+#include <QListWidget>
+#include <QTimer>
+#include <memory>
+#include <vector>
+
+#include "learning/frmDialog.h"
+#include "learning/frmNaviList.h"
+#include "learning/frmNavigation.h"
+#include "learning/messages.h"
+#include "shell/frmDefault.h"
+#include "shell/frmMDI.h"
+#include "support/program.h"
+#include "ui/gesture.h"
+#include "ui/qt/canvas.h"
+#include "ui/qt/desktopScript.h"
+#include "ui/qt/qtPlatform.h"
+
+namespace zelvs {
+namespace {
+
+class KeyboardTest : public testing::Test {
+ protected:
+  KeyboardTest() {
+    qputenv("QT_QPA_PLATFORM", "offscreen");
+    desktop_ = std::make_unique<DesktopScript>(argc_, argv_);
+    platform_ = std::make_unique<QtPlatform>();
+    setPlatform(platform_.get());
+    clearState();
+    programFolder = folder_.path();
+    folder_.write("ZELVS.INI", makerIni());
+    std::filesystem::create_directory(folder_.file("NaviData"));
+    folder_.write("NaviData/NaviIndex.txt", "a.txt\ta\t\r\nb.txt\tb\t\r\n");
+    folder_.write("NaviData/a.txt", "1\r\n2\r\n3\r\n4\r\n5\r\n6\r\n");
+    folder_.write("NaviData/b.txt", "1\r\n2\r\n3\r\n");
+    startUp();
+    settle();
+  }
+  ~KeyboardTest() override {
+    desk().clear();
+    settle();
+  }
+
+  static void settle() {
+    QApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+    for (int i = 0; i < 3; ++i)
+      QApplication::processEvents();
+  }
+  static Canvas* canvasOf(const Form* form) {
+    for (QWidget* widget : QApplication::allWidgets()) {
+      auto* canvas = qobject_cast<Canvas*>(widget);
+      if (canvas != nullptr && canvas->form() == form) return canvas;
+    }
+    return nullptr;
+  }
+  /// As a person presses it: it goes to what has the keyboard.
+  static void press(Qt::Key key, Qt::KeyboardModifiers modifiers = Qt::NoModifier) {
+    settle();
+    QWidget* target = QApplication::focusWidget();
+    ASSERT_NE(target, nullptr);
+    QKeyEvent down(QEvent::KeyPress, key, modifiers);
+    QApplication::sendEvent(target, &down);
+    QKeyEvent up(QEvent::KeyRelease, key, modifiers);
+    QApplication::sendEvent(target, &up);
+    settle();
+  }
+
+  TemporaryFolder folder_;
+  int argc_ = 1;
+  char name_[6] = "zelvs";
+  char* argv_[2] = {name_, nullptr};
+  std::unique_ptr<DesktopScript> desktop_;
+  std::unique_ptr<QtPlatform> platform_;
+};
+
+TEST_F(KeyboardTest, EnterAnswersAQuestion) {
+  QTimer::singleShot(0, [] { press(Qt::Key_Return); });
+  EXPECT_EQ(askDialog("?", DialogMode::TwoButtons, "title"), 1);
+}
+
+TEST_F(KeyboardTest, AQuestionStaysInFrontOfTheWindowsThatStayInFront) {
+  gesture::click(*frmMDI, &frmMDI->lblDefault);
+  bool shown = false;
+  QTimer::singleShot(0, [&] {
+    settle();
+    const QWidget* window = canvasOf(frmDialog.form())->window();
+    shown = window->isVisible() && window->isModal() && window->windowFlags().testFlag(Qt::WindowStaysOnTopHint);
+    frmDialog->hide();
+  });
+  askDialog("?", DialogMode::OneButton, "title");
+  EXPECT_TRUE(shown);
+}
+
+TEST_F(KeyboardTest, TheLessonListIsWorkedByArrowsAndEnter) {
+  QTimer::singleShot(0, [] {
+    press(Qt::Key_Down);
+    EXPECT_EQ(frmNaviList->lstTitle.ListIndex, 1);
+    press(Qt::Key_Return);
+    if (frmNaviList.visible()) frmNaviList->hide();
+  });
+  gesture::doubleClick(*frmMDI, &frmMDI->lblNagigator);
+  settle();
+  ASSERT_TRUE(frmNavigation.visible());
+  EXPECT_EQ(frmNavigation->pageCount, 1);
+}
+
+TEST_F(KeyboardTest, AListKeepsItsSelectionWhateverKeysAreHeld) {
+  QTimer::singleShot(0, [] {
+    settle();
+    auto* list = qobject_cast<QListWidget*>(canvasOf(frmNaviList.form())->widgetOf(frmNaviList->lstTitle));
+    ASSERT_NE(list, nullptr);
+    const QPointF place = list->visualItemRect(list->item(0)).center();
+    for (const auto type : {QEvent::MouseButtonPress, QEvent::MouseButtonRelease}) {
+      QMouseEvent event(type, place, list->viewport()->mapToGlobal(place), Qt::LeftButton,
+                        type == QEvent::MouseButtonPress ? Qt::LeftButton : Qt::NoButton, Qt::ControlModifier);
+      QApplication::sendEvent(list->viewport(), &event);
+    }
+    EXPECT_EQ(list->selectedItems().size(), 1);
+    EXPECT_EQ(frmNaviList->lstTitle.ListIndex, 0);
+    frmNaviList->hide();
+  });
+  gesture::doubleClick(*frmMDI, &frmMDI->lblNagigator);
+}
+
+TEST_F(KeyboardTest, TheSpaceKeyTurnsThePagesAndStopsAtTheLast) {
+  frmNavigation->setNavigation("a.txt");
+  frmNavigation->show();
+  press(Qt::Key_Space);
+  EXPECT_EQ(frmNavigation->currentPage, 2);
+  press(Qt::Key_Space);
+  press(Qt::Key_Space);
+  EXPECT_TRUE(frmNavigation.visible()) << "the key has not gone on to the button beside";
+  EXPECT_EQ(frmNavigation->currentPage, 2);
+}
+
+TEST_F(KeyboardTest, TabGoesThroughTheSettingsAsTheyStandOnTheWindow) {
+  gesture::click(*frmMDI, &frmMDI->lblDefault);
+  const FrmDefault& form = *frmDefault;
+  const std::vector<const Control*> wanted = {
+      &form.chkDef(2),     &form.chkDef(3),    &form.chkDef(4),     &form.chkDef(5),   &form.chkDef(6),
+      &form.chkDef(0),     &form.optHF(0),     &form.optHF(1),      &form.chkDef(1),   &form.cmbCPUType,
+      &form.cmbSA(0),      &form.cmbClock(1),  &form.chkCascade(0), &form.cmbSA(2),    &form.cmbClock(3),
+      &form.chkCascade(1), &form.cmbSA(4),     &form.cmbClock(5),   &form.cmbIOS,      &form.cmbMode,
+      &form.cmdAction(2),  &form.cmdAction(3), &form.cmdAction(1),  &form.cmdAction(0)};
+  const Canvas* canvas = canvasOf(&form);
+  settle();
+  for (const Control* control : wanted) {
+    EXPECT_TRUE(canvas->widgetOf(*control)->hasFocus()) << control->fullName();
+    press(Qt::Key_Tab);
+  }
+}
+
+}  // namespace
+}  // namespace zelvs
