@@ -7,45 +7,22 @@
 #include <QMdiArea>
 #include <QMdiSubWindow>
 #include <QMouseEvent>
-#include <memory>
 
 #include "monitor/frmDumpDRC.h"
 #include "panel/frmHard.h"
+#include "qt/support/desktop.h"
 #include "shell/frmMDI.h"
-#include "support/program.h"
-#include "ui/qt/canvas.h"
-#include "ui/qt/desktopScript.h"
 
 namespace zelvs {
 namespace {
 
-class FloatingTest : public testing::Test {
+class FloatingTest : public DesktopTest {
  protected:
-  FloatingTest() {
-    qputenv("QT_QPA_PLATFORM", "offscreen");
-    desktop_ = std::make_unique<DesktopScript>(argc_, argv_);
-    clearState();
-    programFolder = folder_.path();
-    folder_.write("ZELVS.INI", makerIni({{"OPENWINDOW1", "0"}, {"OPENWINDOW2", "0"}, {"OPENWINDOW5", "1"}}));
-    startUp();
-    settle();
-  }
-  ~FloatingTest() override { desk().clear(); }
+  FloatingTest() { start({{"OPENWINDOW1", "0"}, {"OPENWINDOW2", "0"}, {"OPENWINDOW5", "1"}}); }
 
-  static void settle() {
-    for (int i = 0; i < 3; ++i)
-      QApplication::processEvents();
-  }
   void click(Control& control) {
-    EXPECT_EQ(desktop_->hands().click(control.form(), &control), "");
+    EXPECT_EQ(hands().click(control.form(), &control), "");
     settle();
-  }
-  static Canvas* canvasOf(const Form* form) {
-    for (QWidget* widget : QApplication::allWidgets()) {
-      auto* canvas = qobject_cast<Canvas*>(widget);
-      if (canvas != nullptr && canvas->form() == form) return canvas;
-    }
-    return nullptr;
   }
   static QMdiSubWindow* windowOf(const Form* form) {
     return qobject_cast<QMdiSubWindow*>(canvasOf(form)->parentWidget());
@@ -58,12 +35,6 @@ class FloatingTest : public testing::Test {
       widget = widget->parentWidget();
     return widget;
   }
-
-  TemporaryFolder folder_;
-  int argc_ = 1;
-  char name_[5] = "test";
-  char* argv_[2] = {name_, nullptr};
-  std::unique_ptr<DesktopScript> desktop_;
 };
 
 TEST_F(FloatingTest, ItStaysInFrontOfThePanelAndComesBackToItsPlace) {
@@ -133,7 +104,7 @@ TEST_F(FloatingTest, ItIsDraggedByItsTitleBarAndTurnedToByIt) {
 
 TEST_F(FloatingTest, ClosedWhileItFloatsItComesBackAmongTheOthers) {
   click(frmDumpDRC->chkTopMost);
-  EXPECT_EQ(desktop_->hands().close(*frmDumpDRC), "");
+  EXPECT_EQ(hands().close(*frmDumpDRC), "");
   settle();
   EXPECT_FALSE(frmDumpDRC.loaded());
   frmDumpDRC->show();

@@ -15,15 +15,11 @@
 #include <QRadioButton>
 #include <QTabBar>
 #include <QToolTip>
-#include <memory>
 
+#include "qt/support/desktop.h"
 #include "shell/frmMDI.h"
-#include "support/program.h"
 #include "ui/controls.h"
-#include "ui/qt/canvas.h"
-#include "ui/qt/desktopScript.h"
 #include "ui/qt/drawing.h"
-#include "ui/qt/qtPlatform.h"
 #include "ui/qt/windows.h"
 #include "ui/textExtent.h"
 
@@ -102,32 +98,14 @@ class FrmGallery final : public Form {
 
 FormRef<FrmGallery> frmGallery{"frmGallery"};
 
-/// Real windows, off-screen, worked by the same hands as a script's.
-class GalleryTest : public testing::Test {
+class GalleryTest : public DesktopTest {
  protected:
   GalleryTest() {
-    qputenv("QT_QPA_PLATFORM", "offscreen");
-    desktop_ = std::make_unique<DesktopScript>(argc_, argv_);
-    clearState();
     frmGallery->show();
     settle();
   }
-  ~GalleryTest() override { desk().clear(); }
 
-  Hands& hands() { return desktop_->hands(); }
-  ScriptedPlatform& platform() { return desktop_->platform(); }
-
-  static void settle() {
-    for (int i = 0; i < 3; ++i)
-      QApplication::processEvents();
-  }
-  static Canvas& canvas() {
-    for (QWidget* widget : QApplication::allWidgets()) {
-      auto* canvas = qobject_cast<Canvas*>(widget);
-      if (canvas != nullptr && canvas->form() == frmGallery.form()) return *canvas;
-    }
-    throw std::runtime_error("the gallery has no canvas");
-  }
+  static Canvas& canvas() { return *canvasOf(frmGallery.form()); }
   template <class Widget>
   static Widget& widgetOf(const Control& control) {
     return *qobject_cast<Widget*>(canvas().widgetOf(control));
@@ -137,12 +115,6 @@ class GalleryTest : public testing::Test {
     settle();
     return canvas().grab().toImage().pixelColor(qRound(x / kTwipsPerPixel), qRound(y / kTwipsPerPixel));
   }
-
- private:
-  int argc_ = 1;
-  char name_[5] = "test";
-  char* argv_[2] = {name_, nullptr};
-  std::unique_ptr<DesktopScript> desktop_;
 };
 
 TEST_F(GalleryTest, TypingReachesTheModelAndTheFieldShowsIt) {

@@ -6,58 +6,31 @@
 #include <QKeyEvent>
 #include <QListWidget>
 #include <QTimer>
-#include <memory>
 #include <vector>
 
 #include "learning/frmDialog.h"
 #include "learning/frmNaviList.h"
 #include "learning/frmNavigation.h"
 #include "learning/messages.h"
+#include "qt/support/desktop.h"
 #include "shell/frmDefault.h"
 #include "shell/frmMDI.h"
-#include "support/program.h"
 #include "ui/gesture.h"
-#include "ui/qt/canvas.h"
-#include "ui/qt/desktopScript.h"
-#include "ui/qt/qtPlatform.h"
 
 namespace zelvs {
 namespace {
 
-class KeyboardTest : public testing::Test {
+class KeyboardTest : public DesktopTest {
  protected:
   KeyboardTest() {
-    qputenv("QT_QPA_PLATFORM", "offscreen");
-    desktop_ = std::make_unique<DesktopScript>(argc_, argv_);
-    platform_ = std::make_unique<QtPlatform>();
-    setPlatform(platform_.get());
-    clearState();
-    programFolder = folder_.path();
-    folder_.write("ZELVS.INI", makerIni());
-    std::filesystem::create_directory(folder_.file("NaviData"));
-    folder_.write("NaviData/NaviIndex.txt", "a.txt\ta\t\r\nb.txt\tb\t\r\n");
-    folder_.write("NaviData/a.txt", "1\r\n2\r\n3\r\n4\r\n5\r\n6\r\n");
-    folder_.write("NaviData/b.txt", "1\r\n2\r\n3\r\n");
-    startUp();
-    settle();
-  }
-  ~KeyboardTest() override {
-    desk().clear();
-    settle();
+    takePersonsPlatform();
+    std::filesystem::create_directory(folder.file("NaviData"));
+    folder.write("NaviData/NaviIndex.txt", "a.txt\ta\t\r\nb.txt\tb\t\r\n");
+    folder.write("NaviData/a.txt", "1\r\n2\r\n3\r\n4\r\n5\r\n6\r\n");
+    folder.write("NaviData/b.txt", "1\r\n2\r\n3\r\n");
+    start();
   }
 
-  static void settle() {
-    QApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
-    for (int i = 0; i < 3; ++i)
-      QApplication::processEvents();
-  }
-  static Canvas* canvasOf(const Form* form) {
-    for (QWidget* widget : QApplication::allWidgets()) {
-      auto* canvas = qobject_cast<Canvas*>(widget);
-      if (canvas != nullptr && canvas->form() == form) return canvas;
-    }
-    return nullptr;
-  }
   /// As a person presses it: it goes to what has the keyboard.
   static void press(Qt::Key key, Qt::KeyboardModifiers modifiers = Qt::NoModifier) {
     settle();
@@ -69,13 +42,6 @@ class KeyboardTest : public testing::Test {
     QApplication::sendEvent(target, &up);
     settle();
   }
-
-  TemporaryFolder folder_;
-  int argc_ = 1;
-  char name_[6] = "zelvs";
-  char* argv_[2] = {name_, nullptr};
-  std::unique_ptr<DesktopScript> desktop_;
-  std::unique_ptr<QtPlatform> platform_;
 };
 
 TEST_F(KeyboardTest, EnterAnswersAQuestion) {

@@ -6,46 +6,26 @@
 #include <QMessageBox>
 #include <QPushButton>
 #include <QTimer>
-#include <memory>
 
 #include "learning/frmNaviList.h"
 #include "learning/frmNavigation.h"
+#include "qt/support/desktop.h"
 #include "shell/frmMDI.h"
-#include "support/program.h"
 #include "ui/gesture.h"
-#include "ui/qt/canvas.h"
-#include "ui/qt/desktopScript.h"
-#include "ui/qt/qtPlatform.h"
 
 namespace zelvs {
 namespace {
 
-class LessonTest : public testing::Test {
+class LessonTest : public DesktopTest {
  protected:
   LessonTest() {
-    qputenv("QT_QPA_PLATFORM", "offscreen");
-    desktop_ = std::make_unique<DesktopScript>(argc_, argv_);
-    platform_ = std::make_unique<QtPlatform>();
-    setPlatform(platform_.get());
-    clearState();
-    programFolder = folder_.path();
-    folder_.write("ZELVS.INI", makerIni());
-    std::filesystem::create_directory(folder_.file("NaviData"));
-    folder_.write("NaviData/NaviIndex.txt", "none.txt\tnone\t\r\na.txt\ta\t\r\n");
-    folder_.write("NaviData/a.txt", "1\r\n2\r\n3\r\n4\r\n5\r\n6\r\n");
-    startUp();
-    settle();
-  }
-  ~LessonTest() override {
-    desk().clear();
-    settle();
+    takePersonsPlatform();
+    std::filesystem::create_directory(folder.file("NaviData"));
+    folder.write("NaviData/NaviIndex.txt", "none.txt\tnone\t\r\na.txt\ta\t\r\n");
+    folder.write("NaviData/a.txt", "1\r\n2\r\n3\r\n4\r\n5\r\n6\r\n");
+    start();
   }
 
-  static void settle() {
-    QApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
-    for (int i = 0; i < 3; ++i)
-      QApplication::processEvents();
-  }
   static void click(Control& control) { EXPECT_EQ(gesture::click(control.form(), &control), ""); }
   /// Opens the list; what is to be done inside is done by its loop.
   template <class Inside>
@@ -56,20 +36,7 @@ class LessonTest : public testing::Test {
     });
     EXPECT_EQ(gesture::doubleClick(*frmMDI, &frmMDI->lblNagigator), "");
   }
-  static QWidget* windowOf(const Form* form) {
-    for (QWidget* widget : QApplication::allWidgets()) {
-      auto* canvas = qobject_cast<Canvas*>(widget);
-      if (canvas != nullptr && canvas->form() == form) return canvas->window();
-    }
-    return nullptr;
-  }
-
-  TemporaryFolder folder_;
-  int argc_ = 1;
-  char name_[6] = "zelvs";
-  char* argv_[2] = {name_, nullptr};
-  std::unique_ptr<DesktopScript> desktop_;
-  std::unique_ptr<QtPlatform> platform_;
+  static QWidget* windowOf(const Form* form) { return canvasOf(form)->window(); }
 };
 
 TEST_F(LessonTest, TheBoxOfAMissingLessonBelongsToTheList) {

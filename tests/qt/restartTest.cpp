@@ -4,35 +4,19 @@
 
 #include <QApplication>
 #include <QWidget>
-#include <memory>
 
+#include "qt/support/desktop.h"
 #include "shell/iniFile.h"
 #include "shell/restart.h"
 #include "support/heap.h"
-#include "support/program.h"
-#include "ui/qt/desktopScript.h"
 
 namespace zelvs {
 namespace {
 
-class DesktopRestartTest : public testing::Test {
+class DesktopRestartTest : public DesktopTest {
  protected:
-  DesktopRestartTest() {
-    qputenv("QT_QPA_PLATFORM", "offscreen");
-    desktop_ = std::make_unique<DesktopScript>(argc_, argv_);
-    clearState();
-    programFolder = folder_.path();
-    folder_.write("ZELVS.INI", makerIni());
-    startUp();
-    settle();
-  }
-  ~DesktopRestartTest() override { desk().clear(); }
+  DesktopRestartTest() { start(); }
 
-  static void settle() {
-    QApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
-    for (int i = 0; i < 3; ++i)
-      QApplication::processEvents();
-  }
   /// With every window open, so that each is painted before it goes.
   static void restart() {
     Mdef_Set();
@@ -47,12 +31,6 @@ class DesktopRestartTest : public testing::Test {
       count += widget->findChildren<QObject*>().size();
     return count + qApp->findChildren<QObject*>().size();
   }
-
-  TemporaryFolder folder_;
-  int argc_ = 1;
-  char name_[6] = "zelvs";
-  char* argv_[2] = {name_, nullptr};
-  std::unique_ptr<DesktopScript> desktop_;
 };
 
 TEST_F(DesktopRestartTest, AHundredOfThemLeaveNoWindowBehind) {

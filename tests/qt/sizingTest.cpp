@@ -3,43 +3,15 @@
 #include <gtest/gtest.h>
 
 #include <QApplication>
-#include <memory>
 
 #include "learning/frmNaviList.h"
 #include "learning/frmNavigation.h"
-#include "support/program.h"
-#include "ui/qt/canvas.h"
-#include "ui/qt/desktopScript.h"
+#include "qt/support/desktop.h"
 
 namespace zelvs {
 namespace {
 
-class SizingTest : public testing::Test {
- protected:
-  SizingTest() {
-    qputenv("QT_QPA_PLATFORM", "offscreen");
-    desktop_ = std::make_unique<DesktopScript>(argc_, argv_);
-    clearState();
-  }
-  ~SizingTest() override { desk().clear(); }
-
-  static void settle() {
-    for (int i = 0; i < 3; ++i)
-      QApplication::processEvents();
-  }
-  static Canvas* canvasOf(const Form* form) {
-    for (QWidget* widget : QApplication::allWidgets()) {
-      auto* canvas = qobject_cast<Canvas*>(widget);
-      if (canvas != nullptr && canvas->form() == form) return canvas;
-    }
-    return nullptr;
-  }
-
-  int argc_ = 1;
-  char name_[5] = "test";
-  char* argv_[2] = {name_, nullptr};
-  std::unique_ptr<DesktopScript> desktop_;
-};
+class SizingTest : public DesktopTest {};
 
 TEST_F(SizingTest, TheFormTakesTheSizeThatTheUserGives) {
   frmNavigation->show();
