@@ -10,6 +10,8 @@
 #include "kernel/state.h"
 #include "kernel/tick.h"
 #include "panel/frmHard.h"
+#include "shell/iniFile.h"
+#include "shell/restart.h"
 #include "ui/desk.h"
 #include "ui/headless/scriptedPlatform.h"
 
@@ -80,6 +82,16 @@ void startToStartupDone(benchmark::State& state) {
   }
 }
 BENCHMARK(startToStartupDone)->Unit(benchmark::kMillisecond);
+
+/// With every window of the maker's settings opened anew.
+void restart(benchmark::State& state) {
+  Program program;
+  for (auto _ : state) {
+    Mdef_Set();
+    restartSimulator();
+  }
+}
+BENCHMARK(restart)->Unit(benchmark::kMillisecond);
 
 }  // namespace
 }  // namespace zelvs
