@@ -23,10 +23,11 @@
 
 namespace zelvs {
 
-void showAtOnce(Form& form, Form* owner) {
+bool showAtOnce(Form& form, Form* owner) {
   form.show(ShowMode::Modeless, owner);
   form.repaint();
   yieldToEvents();
+  return !desk().ended();
 }
 
 void startFirstScan() {
@@ -45,7 +46,8 @@ void startUp() {
   frmVersion->lblProcess(1).Width = 0;
   frmVersion->lblProcess(1).Visible = true;
   yieldToEvents();
-  loadWindows();
+  if (!desk().ended()) loadWindows();
+  if (desk().ended()) return;
   readNaviIndex();
   startupDone = kTrue;
   resetCenterRegisters();
@@ -59,10 +61,10 @@ void loadWindows() {
   frmMDI->show();
   showProcessMessage("ハードウェアウィンドウロード中です。");
   frmHard->move(0, 0);
-  showAtOnce(*frmHard);
+  if (!showAtOnce(*frmHard)) return;
   showProcessMessage("レジスタウィンドウロード中です。");
   frmRegister.load();
-  if (openWindow[1] != 0) showAtOnce(*frmRegister, frmMDI.get());
+  if (openWindow[1] != 0 && !showAtOnce(*frmRegister, frmMDI.get())) return;
   for (FormPlace* window : std::initializer_list<FormPlace*>{&frmDumpCDIO, &frmDumpC17, &frmDumpDRC}) {
     showProcessMessage("メモリウィンドウロード中です。");
     window->load();
@@ -72,6 +74,7 @@ void loadWindows() {
   resetSimulationState();
   placeWindows();
   openDumpWindowsOfSettings();
+  if (desk().ended()) return;
   showProcessMessage("レジスタヒントウィンドウロード中です。");
   frmHint.load();
   if (openWindow[2] != 0) showAtOnce(*frmHint);

@@ -1,7 +1,6 @@
 #include "learning/frmHint.h"
 
 #include <algorithm>
-#include <optional>
 #include <vector>
 
 #include "kernel/state.h"
@@ -17,16 +16,6 @@ constexpr double kTabHeight = 360;
 /// Room for the picture when there is none to measure.
 constexpr double kEmptyWidth = 7200;
 constexpr double kEmptyHeight = 4500;
-
-/// The field of a line at a position from 0, or nothing when the line has fewer.
-std::optional<std::string> field(std::string_view line, int position) {
-  for (; position > 0; --position) {
-    const std::size_t tab = line.find('\t');
-    if (tab == std::string_view::npos) return {};
-    line.remove_prefix(tab + 1);
-  }
-  return std::string(line.substr(0, line.find('\t')));
-}
 
 }  // namespace
 
@@ -61,8 +50,9 @@ void FrmHint::initHint() {
   for (const std::string& line : readTextFile(hintDir + "RegsterHint.TXT").value_or(std::vector<std::string>())) {
     if (line.starts_with(';')) continue;
     tabHint.Tabs = ++count;
-    if (const auto caption = field(line, 1)) tabHint.setTabCaption(count - 1, *caption);
-    const Picture picture = loadPictureIfThere(hintDir + *field(line, 0));
+    const std::vector<std::string> fields = fieldsOf(line, 3);
+    if (fields.size() > 1) tabHint.setTabCaption(count - 1, fields[1]);
+    const Picture picture = loadPictureIfThere(hintDir + fields[0]);
     if (!picture.none()) ilsHint.add(picture);
   }
   if (ilsHint.count() > 0) picHint.Picture = ilsHint.image(1);

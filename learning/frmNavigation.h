@@ -30,7 +30,9 @@ class FrmNavigation final : public Form {
   void setNavigation(const std::string& fileName);
   /// Shows a page, from 1. A line of it that the file does not have is a run-time error.
   void showPage(int page);
+  /// "Back" is for every page but the first, "Next" for every page but pageCount.
   void updateButtons();
+  /// Empties both strips and the page's number.
   void clearPage();
   /// Prints a text behind what the picture holds. "&", "#" and "\" are not printed: they turn what follows black,
   /// blue and red, and the picture's ForeColor with it.

@@ -13,6 +13,8 @@ namespace zelvs {
 
 namespace {
 
+constexpr std::size_t kFields = 3;  // file name, title, note
+
 Flag isLesson(const std::string& fileName) {
   std::error_code error;
   return std::filesystem::is_regular_file(naviPath(fileName), error) ? kTrue : kFalse;
@@ -21,16 +23,6 @@ Flag isLesson(const std::string& fileName) {
 [[noreturn]] void refuse(const std::string& path, std::size_t number, const std::string& line) {
   runTimeError(path + ", line " + std::to_string(number) + ": no file name, title and note with a TAB between: \"" +
                line + "\"");
-}
-
-/// Nothing when the line has fewer than two TABs. The third field takes all further ones.
-std::optional<NaviRecord> entryOf(const std::string& line) {
-  const std::size_t first = line.find('\t');
-  if (first == std::string::npos) return std::nullopt;
-  const std::size_t second = line.find('\t', first + 1);
-  if (second == std::string::npos) return std::nullopt;
-  const std::string fileName = line.substr(0, first);
-  return NaviRecord{fileName, line.substr(first + 1, second - first - 1), line.substr(second + 1), isLesson(fileName)};
 }
 
 }  // namespace
@@ -45,9 +37,9 @@ void readNaviIndex() {
   for (std::size_t i = 0; i < lines->size(); ++i) {
     const std::string& line = (*lines)[i];
     if (line.starts_with(';')) continue;
-    const std::optional<NaviRecord> entry = entryOf(line);
-    if (!entry) refuse(path, i + 1, line);
-    naviIndex.push_back(*entry);
+    const std::vector<std::string> fields = fieldsOf(line, kFields);
+    if (fields.size() < kFields) refuse(path, i + 1, line);
+    naviIndex.push_back({fields[0], fields[1], fields[2], isLesson(fields[0])});
   }
 }
 

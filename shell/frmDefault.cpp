@@ -8,7 +8,6 @@
 
 #include "kernel/state.h"
 #include "panel/settingLists.h"
-#include "shell/frmMDI.h"
 #include "shell/iniFile.h"
 #include "shell/restart.h"
 #include "ui/desk.h"
@@ -88,8 +87,7 @@ void showMakerValues() {
 
 void setNow() {
   applyDialogSettings();
-  restartSimulator();
-  frmMDI->lblRunMode_Click(kRun);
+  restartSimulator();  // which selects RUN
 }
 
 struct Placed {

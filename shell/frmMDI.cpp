@@ -31,8 +31,13 @@ struct ToolBarRow {
   int pointer;  // image of ilsMouse, 0: none
 };
 
+/// A restart lets events run while its windows come up: what would pull the bench from under it waits.
+bool restarting() {
+  return runMode == kRestarting && startupDone != kTrue;
+}
+
 void selectRunMode(int index) {
-  frmMDI->lblRunMode_Click(index);
+  if (!restarting()) frmMDI->lblRunMode_Click(index);
 }
 
 void moveOverRunMode(int index) {
@@ -71,6 +76,7 @@ void lblRegisterHint_Click() {
 }
 
 void lblDefault_Click() {
+  if (restarting()) return;
   hideDumpSel();
   frmDefault->move(4700, 4000);
   frmDefault->keepOnScreen();
@@ -79,7 +85,7 @@ void lblDefault_Click() {
 
 void lblNagigator_DblClick() {
   // While the splash, the about window or a lesson is there nothing happens at all.
-  if (frmVersion.visible() || frmNavigation.visible()) return;
+  if (frmVersion.visible() || frmNavigation.visible() || restarting()) return;
   hideDumpSel();
   openNaviList();
 }
@@ -163,6 +169,7 @@ void FrmMDI::lblRunMode_Click(int index) {
 }
 
 bool FrmMDI::queryUnload(bool /*byUser*/) {
+  if (restarting()) return false;
   const bool confirmed = platform().messageBox("ZELVS終了確認", "アプリケーションを終了します。よろしいですか？",
                                                MessageIcon::Question, MessageButtons::OkCancel);
   if (confirmed) desk().end();

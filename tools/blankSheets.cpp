@@ -71,7 +71,7 @@ int main(int argc, char** argv) {
   }
   for (const std::string& line : *lines) {
     if (line.starts_with(';')) continue;
-    written &= write(folder / "HintData" / line.substr(0, line.find('\t')), kHintWidth, kHintHeight);
+    written &= write(folder / "HintData" / zelvs::fieldsOf(line, 2)[0], kHintWidth, kHintHeight);
   }
   return written ? 0 : 1;
 }

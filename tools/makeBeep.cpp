@@ -57,7 +57,7 @@ std::string waveFile() {
 
 int main(int count, char** arguments) {
   if (count != 2) {
-    std::fprintf(stderr, "usage: makeBeep FILE\n");
+    std::fprintf(stderr, "usage: zelvs-make-beep FILE\n");
     return 2;
   }
   std::ofstream out(arguments[1], std::ios::binary);

@@ -231,7 +231,7 @@ void ScriptRunner::finishInside() {
 }
 
 bool ScriptRunner::runNext() {
-  platform_.finishAdvance();
+  if (!platform_.finishAdvance()) return true;  // a modal window has gone meanwhile: first its opener goes on
   if (desk().ended()) return false;
   if (prompt_) out_ << ">" << std::endl;
   std::string line;

@@ -16,8 +16,7 @@ Platform* thePlatform = nullptr;
 int layerOf(const Form& form) {
   enum { kTopmost, kWindow, kFloatingChild, kChild, kFrame };
   if (form.kind() == FormKind::Frame) return kFrame;
-  // A modal one holds the user: behind a window that always stays in front it could not be answered.
-  if (form.topmost() || form.modal()) return kTopmost;
+  if (form.inFront()) return kTopmost;
   if (form.kind() == FormKind::Window) return kWindow;
   return form.floating() ? kFloatingChild : kChild;
 }

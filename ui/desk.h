@@ -12,7 +12,7 @@ namespace zelvs {
 /// Both backends look here, so that they agree.
 class Desk {
  public:
-  /// Front to back: topmost windows, windows, floating children, children, the frame.
+  /// Front to back: topmost and modal windows, windows, floating children, children, the frame.
   const std::vector<Form*>& forms() const { return forms_; }
   Form* active() const { return active_; }
   Control* focused() const { return focused_; }

@@ -43,6 +43,8 @@ class Form : public PropertyOwner {
   bool visible() const { return visible_; }
   bool modal() const { return modal_; }
   bool topmost() const { return topmost_; }
+  /// In front of all plain windows: topmost, or modal, since a modal one holds the user and must be seen.
+  bool inFront() const { return topmost_ || modal_; }
   /// A child that has left the client area for the frame itself, so that it stays in front of the other children.
   bool floating() const { return floating_; }
   Form* owner() const { return owner_; }

@@ -1,6 +1,7 @@
 #include "ui/textFile.h"
 
 #include <algorithm>
+#include <cstdint>
 #include <filesystem>
 #include <fstream>
 
@@ -12,9 +13,10 @@ std::optional<std::string> readFile(const std::string& path) {
   std::error_code error;
   if (!std::filesystem::is_regular_file(path, error)) return std::nullopt;
   std::ifstream file(path, std::ios::binary);
-  if (!file) return std::nullopt;
+  const std::uintmax_t size = std::filesystem::file_size(path, error);
+  if (!file || error) return std::nullopt;
   std::string bytes;
-  bytes.resize(static_cast<std::size_t>(std::filesystem::file_size(path, error)));
+  bytes.resize(static_cast<std::size_t>(size));
   file.read(bytes.data(), static_cast<std::streamsize>(bytes.size()));
   bytes.resize(static_cast<std::size_t>(std::max<std::streamsize>(file.gcount(), 0)));
   return bytes;
@@ -32,6 +34,18 @@ std::optional<std::vector<std::string>> readTextFile(const std::string& path) {
     at = end + 1;
   }
   return lines;
+}
+
+std::vector<std::string> fieldsOf(const std::string& line, std::size_t most) {
+  std::vector<std::string> fields;
+  std::size_t at = 0;
+  for (std::size_t tab = line.find('\t'); tab != std::string::npos && fields.size() + 1 < most;
+       tab = line.find('\t', at)) {
+    fields.push_back(line.substr(at, tab - at));
+    at = tab + 1;
+  }
+  fields.push_back(line.substr(at));
+  return fields;
 }
 
 }  // namespace zelvs

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <cstddef>
 #include <optional>
 #include <string>
 #include <vector>
@@ -14,5 +15,8 @@ std::optional<std::string> readFile(const std::string& path);
 /// not have. Nothing as above. The text is whole before anybody looks for a mark in it: the second byte of a character
 /// may be the byte of a mark.
 std::optional<std::vector<std::string>> readTextFile(const std::string& path);
+
+/// The pieces of a line between its TABs. The last of at most `most` takes the rest of the line, TABs included.
+std::vector<std::string> fieldsOf(const std::string& line, std::size_t most);
 
 }  // namespace zelvs

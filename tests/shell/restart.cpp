@@ -3,6 +3,7 @@
 #include "shell/restart.h"
 
 #include <algorithm>
+#include <functional>
 #include <string>
 #include <vector>
 
@@ -23,6 +24,18 @@
 
 namespace zelvs {
 namespace {
+
+/// One before which a person does something while events run.
+class EventfulPlatform final : public HeadlessPlatform {
+ public:
+  void yield() override {
+    ++yields;
+    if (onYield) onYield();
+    HeadlessPlatform::yield();
+  }
+  int yields = 0;
+  std::function<void()> onYield;
+};
 
 class RestartTest : public ProgramTest {
  protected:
@@ -211,6 +224,62 @@ TEST_F(RestartTest, TheBeepDeviceOpensForTheNewPanel) {
   EXPECT_EQ(frmHard->mmcBeep.FileName.get(), folder.file("BEEP.WAV"));
 }
 
+TEST_F(RestartTest, WhatTheUserDoesMeanwhileDoesNotPullTheBenchAway) {
+  start();
+  EventfulPlatform eventful;
+  setPlatform(&eventful);
+  bool asked = false;
+  eventful.onMessageBox = [&](const std::string&, const std::string&, MessageButtons) { return asked = true; };
+  eventful.onModal = [](Form& form) {
+    ADD_FAILURE() << form.name();
+    form.hide();
+  };
+  eventful.onYield = [] {
+    for (Control& label : frmMDI->lblRunMode)
+      gesture::click(*frmMDI, &label);
+    EXPECT_EQ(runMode, kRestarting);
+    gesture::click(*frmMDI, &frmMDI->lblDefault);
+    gesture::doubleClick(*frmMDI, &frmMDI->lblNagigator);
+    gesture::close(*frmMDI);
+  };
+  restartSimulator();
+  EXPECT_GT(eventful.yields, 0);
+  EXPECT_FALSE(asked);
+  EXPECT_FALSE(desk().ended());
+  EXPECT_FALSE(frmDefault.visible());
+  EXPECT_EQ(runMode, kRun);
+  setPlatform(&platform);
+}
+
+TEST_F(RestartTest, AnExitDuringTheStartLoadsNothingMore) {
+  folder.write("ZELVS.INI", makerIni());
+  int most = 1;
+  for (int exitAt = 1; exitAt <= most; ++exitAt) {
+    SCOPED_TRACE(exitAt);
+    desk().clear();
+    clearState();
+    programFolder = folder.path();
+    EventfulPlatform eventful;
+    setPlatform(&eventful);
+    eventful.onMessageBox = [](const std::string&, const std::string&, MessageButtons) { return true; };
+    eventful.onYield = [&] {
+      if (eventful.yields == exitAt) gesture::close(*frmMDI);
+    };
+    startUp();
+    most = std::max(most, eventful.yields + 1);
+    if (exitAt > eventful.yields) {
+      EXPECT_EQ(startupDone, kTrue) << "every moment has been tried";
+      break;
+    }
+    EXPECT_TRUE(desk().ended());
+    EXPECT_NE(startupDone, kTrue);
+    for (const Form* form : desk().forms())
+      EXPECT_FALSE(form->visible()) << form->name();
+  }
+  EXPECT_GT(most, 4);
+  setPlatform(&platform);
+}
+
 TEST_F(RestartTest, WhatTheUserDidBeforeIsForgotten) {
   start();
   EXPECT_EQ(gesture::click(*frmHard, &frmHard->picPI(3)), "");
@@ -248,7 +317,7 @@ TEST_F(RestartTest, AThousandOfThemLeaveNothingBehind) {
   EXPECT_EQ(desk().timers.running(), timers);
   EXPECT_EQ(visibleForms(), order);
   // Less than one small object a restart. The plain heap is not exact.
-#if defined(__SANITIZE_ADDRESS__)
+#if ZELVS_HEAP_IS_EXACT
   constexpr std::size_t kSlack = 1024;
 #else
   constexpr std::size_t kSlack = 32 * kRestarts;

@@ -58,6 +58,15 @@ TEST(TextFile, ALongFileIsReadWhole) {
   EXPECT_EQ(lines->back(), "表19999");
 }
 
+TEST(TextFile, FieldsStandBetweenTabs) {
+  EXPECT_EQ(fieldsOf("a\tb\tc", 3), (Lines{"a", "b", "c"}));
+  EXPECT_EQ(fieldsOf("a\tb\tc\td", 3), (Lines{"a", "b", "c\td"})) << "the last one takes the rest";
+  EXPECT_EQ(fieldsOf("a\tb", 3), (Lines{"a", "b"}));
+  EXPECT_EQ(fieldsOf("", 3), Lines{""});
+  EXPECT_EQ(fieldsOf("\t\t", 3), (Lines{"", "", ""}));
+  EXPECT_EQ(fieldsOf("a\tb", 1), Lines{"a\tb"});
+}
+
 TEST(TextFile, WhatIsNoPlainFileIsAbsent) {
   const TemporaryFolder folder;
   std::filesystem::create_directory(folder.file("folder"));

@@ -1,6 +1,7 @@
 // What a drawing program would find wrong with a circuit, so that no picture is left with a wire in the air.
 
 #include <algorithm>
+#include <cstdlib>
 #include <map>
 #include <numeric>
 #include <utility>

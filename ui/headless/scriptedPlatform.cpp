@@ -15,8 +15,9 @@ void ScriptedPlatform::advance(std::int64_t milliseconds) {
   advanceTo(clock_ + milliseconds);
 }
 
-void ScriptedPlatform::finishAdvance() {
+bool ScriptedPlatform::finishAdvance() {
   if (owed_ > clock_) advanceTo(std::exchange(owed_, 0));
+  return owed_ <= clock_;
 }
 
 void ScriptedPlatform::advanceTo(std::int64_t end) {

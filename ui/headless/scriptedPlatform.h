@@ -15,8 +15,9 @@ class ScriptedPlatform : public Platform {
   /// Moves the clock, firing each timer at its due time. When that closes the modal window, time stands until whoever
   /// opened it has gone on: what is left is for finishAdvance().
   void advance(std::int64_t milliseconds);
-  /// Moves the clock by what an advance() has left; does nothing otherwise.
-  void finishAdvance();
+  /// Moves the clock by what an advance() has left; does nothing otherwise. False when time stands once more, since
+  /// another modal window has been closed.
+  bool finishAdvance();
 
   void yield() override;
   void runModal(Form& form) override;
@@ -46,7 +47,7 @@ class ScriptedPlatform : public Platform {
 };
 
 /// No display at all: 1920 by 1080 pixels, a caption bar of 300 twips.
-class HeadlessPlatform final : public ScriptedPlatform {
+class HeadlessPlatform : public ScriptedPlatform {
  public:
   Screen screen() override { return {1920, 1080}; }
   double captionHeight() override { return 300; }

@@ -63,6 +63,10 @@ void showText(const TextBox& text, QLineEdit& field) {
 class Field final : public Hosted<QLineEdit> {
  public:
   Field(Control& control, QWidget* canvas) : Hosted(control, canvas) {
+    // What comes by no key, an input method's text for one, would be put back: digits are typed plainly here.
+    setAttribute(Qt::WA_InputMethodEnabled, false);
+    setContextMenuPolicy(Qt::NoContextMenu);
+    setAcceptDrops(false);
     // What the widget has cut, undone or deleted by itself is put back.
     connect(this, &QLineEdit::textEdited, this, [this] { showText(static_cast<TextBox&>(this->control()), *this); });
   }
@@ -251,7 +255,8 @@ void showHosted(Control& control, QWidget& widget) {
   widget.setFont(fontOf(control.FontSize, control.FontBold));
   widget.setToolTip(QString::fromStdString(control.ToolTipText.get()));
   // The toolkit would hand the focus to the next control, and the same key would go on there.
-  if (!control.usable() && widget.hasFocus()) widget.parentWidget()->setFocus(Qt::OtherFocusReason);
+  if (!(control.usable() && control.shown()) && widget.hasFocus())
+    widget.parentWidget()->setFocus(Qt::OtherFocusReason);
   widget.setEnabled(control.usable());
   QRect place = pixelsOf(control.area()).toAlignedRect();
   const QString caption = QString::fromStdString(control.Caption.get());

@@ -163,9 +163,8 @@ void Windows::formShown(Form& form) {
   }
   if (form.kind() == FormKind::Window) {
     shown.window->setWindowModality(form.modal() ? Qt::ApplicationModal : Qt::NonModal);
-    const bool front = form.modal() || form.topmost();
-    if (shown.window->windowFlags().testFlag(Qt::WindowStaysOnTopHint) != front)
-      shown.window->setWindowFlag(Qt::WindowStaysOnTopHint, front);
+    if (shown.window->windowFlags().testFlag(Qt::WindowStaysOnTopHint) != form.inFront())
+      shown.window->setWindowFlag(Qt::WindowStaysOnTopHint, form.inFront());
   }
   place(form, shown);
   shown.canvas->setTabOrderAsSeen();
