@@ -104,7 +104,7 @@ TEST(CourseTest, ALessonIsMadeOfWholePages) {
     const Lines lines = shipped("NaviData/" + entry[0]);
     EXPECT_EQ(lines.size() % 3, 0U) << entry[0];
     EXPECT_GE(lines.size() / 3, 8U) << entry[0];
-    EXPECT_LE(lines.size() / 3, 14U) << entry[0];
+    EXPECT_LE(lines.size() / 3, 16U) << entry[0];
     for (const std::string& line : lines)
       EXPECT_FALSE(line.empty()) << entry[0];
   }

@@ -4,19 +4,26 @@
 #ini CABLECONNECTION=0
 #ini OPENWINDOW1=0
 dblclick frmMDI.lblNagigator
-expect frmNaviList.lstTitle.List(2) "レッスン3  スキャンと割り込み"
+expect frmNaviList.lstTitle.List(2) "レッスン3  スキャンと割り込み (約20分)"
 select frmNaviList.lstTitle 2
 click frmNaviList.cmdStart
-expect frmNavigation.lblIndex.Caption 1/14
+expect frmNavigation.lblIndex.Caption 1/16
 wait 100
-# 1: eight registers, and the hints
+# 1: eight registers
 expect frmRegister.Visible True
-expect frmHint.Visible True
 expect frmRegister.lblReg(1).Caption SCR
 expect frmRegister.lblReg(8).Caption BCR
-# 2: 0 in SCR ends the scan behind station 05
+# 2: the hints, and the memory window kept in front
 click frmNavigation.cmdAction(1)
-expect frmNavigation.lblIndex.Caption 2/14
+expect frmNavigation.lblIndex.Caption 2/16
+expect frmHint.Visible True
+activate frmDumpCDIO
+expect frmDumpCDIO.chkTopMost.Value 0
+click frmDumpCDIO.chkTopMost
+expect frmDumpCDIO.chkTopMost.Value 1
+# 3: 0 into SCR
+click frmNavigation.cmdAction(1)
+expect frmNavigation.lblIndex.Caption 3/16
 expect frmRegister.lblValL(1).Caption 05
 dblclick frmRegister.lblValL(1)
 expect frmEditRegister.Caption "Register Write"
@@ -25,20 +32,23 @@ expect frmHint.tabHint.Tab 0
 expect frmEditRegister.cmdAction(0).Caption Write
 type frmEditRegister.txtWriteData 0000
 click frmEditRegister.cmdAction(0)
+# 4: it has ended the scan behind station 05
+click frmNavigation.cmdAction(1)
+expect frmNavigation.lblIndex.Caption 4/16
 wait 100
 expect frmHard.picScanLed.Picture "ilsLED_G 1"
 expect frmRegister.lblValH(2).Caption 00
 expect frmRegister.lblValL(2).Caption 00
-# 3: no scan, no DI
+# 5: no scan, no DI
 click frmNavigation.cmdAction(1)
-expect frmNavigation.lblIndex.Caption 3/14
+expect frmNavigation.lblIndex.Caption 5/16
 click frmHard.picPI(0)
 wait 500
 expect frmHard.picPI(0).Tag I1
 expect frmDumpCDIO.lblData(269).Caption 00
-# 4: one cycle
+# 6: one cycle
 click frmNavigation.cmdAction(1)
-expect frmNavigation.lblIndex.Caption 4/14
+expect frmNavigation.lblIndex.Caption 6/16
 dblclick frmRegister.lblValL(1)
 type frmEditRegister.txtWriteData 0500
 click frmEditRegister.cmdAction(0)
@@ -50,44 +60,52 @@ expect frmDumpCDIO.lblData(269).Caption 01
 expect frmRegister.lblValH(1).Caption 00
 expect frmRegister.lblValL(1).Caption 00
 expect frmHard.picScanLed.Picture "ilsLED_G 1"
-# 5: both at once are refused; then the continuous scan again
+# 7: both at once are refused; then the continuous scan again
 click frmNavigation.cmdAction(1)
-expect frmNavigation.lblIndex.Caption 5/14
+expect frmNavigation.lblIndex.Caption 7/16
 dblclick frmRegister.lblValL(1)
 type frmEditRegister.txtWriteData 0505
 click frmEditRegister.cmdAction(0)
 expect frmMessage.lblMessage.Caption 入力された値が不適切であるため、書き込まれません。
+expect frmMessage.BackColor 65535
+wait 1900
+expect frmMessage.Visible True
+wait 200
+expect frmMessage.Visible False
 expect peek 0x580 00 00
 dblclick frmRegister.lblValL(1)
 type frmEditRegister.txtWriteData 0005
 click frmEditRegister.cmdAction(0)
 wait 100
 expect frmHard.picScanLed.Picture "ilsLED_G 2"
-# 6: refused registers
+# 8: refused registers
 click frmNavigation.cmdAction(1)
-expect frmNavigation.lblIndex.Caption 6/14
+expect frmNavigation.lblIndex.Caption 8/16
 dblclick frmRegister.lblValL(2)
 expect frmMessage.lblMessage.Caption このレジスタはリードオンリーです。
 expect frmEditRegister.Visible False
 dblclick frmRegister.lblValL(8)
 expect frmMessage.lblMessage.Caption スキャン中はライトプロテクト。
 expect frmEditRegister.Visible False
-# 7: the mask lets DI 0 of station 01 through
+# 9: the mask, in a window kept in front too, lets DI 0 of station 01 through
 click frmNavigation.cmdAction(1)
-expect frmNavigation.lblIndex.Caption 7/14
+expect frmNavigation.lblIndex.Caption 9/16
 expect frmMDI.lblMemoryWindow.Caption "Memory Window"
 click frmMDI.lblMemoryWindow
 expect frmDumpSel.cmdAREA(2).Caption DRC
 click frmDumpSel.cmdAREA(2)
+expect frmDumpDRC.chkTopMost.Value 0
+click frmDumpDRC.chkTopMost
+expect frmDumpDRC.chkTopMost.Value 1
 expect frmDumpDRC.lblAdr(0).Caption 50x
 expect frmDumpDRC.lblOff(12).Caption "-3"
 dblclick frmDumpDRC.lblData(13)
 type frmEditMemory.txtWriteData 0001
 click frmEditMemory.cmdAction(0)
 expect peek 0x500 00 00 01 00 00 00
-# 8: the interrupt
+# 10: the interrupt
 click frmNavigation.cmdAction(1)
-expect frmNavigation.lblIndex.Caption 8/14
+expect frmNavigation.lblIndex.Caption 10/16
 dblclick frmRegister.lblValL(4)
 expect frmHint.tabHint.TabCaption(3) INT0R
 expect frmHint.tabHint.Tab 3
@@ -101,25 +119,25 @@ expect frmRegister.lblValH(4).Caption 01
 expect frmRegister.lblValL(4).Caption 01
 expect frmHard.picInt.Visible True
 expect frmHard.picInt.Picture "ilsInt 2"
-# 9: a 1 clears
+# 11: a 1 clears
 click frmNavigation.cmdAction(1)
-expect frmNavigation.lblIndex.Caption 9/14
+expect frmNavigation.lblIndex.Caption 11/16
 dblclick frmRegister.lblValL(4)
 type frmEditRegister.txtWriteData 0101
 click frmEditRegister.cmdAction(0)
 wait 100
 expect peek 0x586 00 01
 expect frmHard.picInt.Visible False
-# 10: DI 1 is masked out
+# 12: DI 1 is masked out
 click frmNavigation.cmdAction(1)
-expect frmNavigation.lblIndex.Caption 10/14
+expect frmNavigation.lblIndex.Caption 12/16
 click frmHard.picPI(1)
 wait 100
 expect frmDumpCDIO.lblData(269).Caption 02
 expect peek 0x586 00 01
-# 11: the halt
+# 13: the halt
 click frmNavigation.cmdAction(1)
-expect frmNavigation.lblIndex.Caption 11/14
+expect frmNavigation.lblIndex.Caption 13/16
 dblclick frmRegister.lblValL(4)
 type frmEditRegister.txtWriteData 0400
 click frmEditRegister.cmdAction(0)
@@ -134,9 +152,9 @@ expect frmRegister.lblValL(2).Caption 81
 expect currentStation 1
 expect frmHard.picScanLed.Picture "ilsLED_G 2"
 expect frmDumpCDIO.lblData(269).Caption 03
-# 12: nothing moves in the halt; then it goes on with what has waited
+# 14: nothing moves in the halt; then it goes on with what has waited
 click frmNavigation.cmdAction(1)
-expect frmNavigation.lblIndex.Caption 12/14
+expect frmNavigation.lblIndex.Caption 14/16
 click frmHard.picPI(1)
 wait 500
 expect frmDumpCDIO.lblData(269).Caption 03
@@ -147,9 +165,9 @@ wait 100
 expect peek 0x586 00 04
 expect frmDumpCDIO.lblData(269).Caption 01
 expect peek 0x583 00
-# 13: the end of the scan as an interrupt
+# 15: the end of the scan as an interrupt
 click frmNavigation.cmdAction(1)
-expect frmNavigation.lblIndex.Caption 13/14
+expect frmNavigation.lblIndex.Caption 15/16
 dblclick frmRegister.lblValL(4)
 type frmEditRegister.txtWriteData 8000
 click frmEditRegister.cmdAction(0)
@@ -171,9 +189,9 @@ click frmEditRegister.cmdAction(0)
 wait 100
 expect frmHard.picScanLed.Picture "ilsLED_G 2"
 expect continuousScanActive -1
-# 14: INT1R has no bits 0 to 2
+# 16: INT1R has no bits 0 to 2
 click frmNavigation.cmdAction(1)
-expect frmNavigation.lblIndex.Caption 14/14
+expect frmNavigation.lblIndex.Caption 16/16
 dblclick frmRegister.lblValL(5)
 type frmEditRegister.txtWriteData FF00
 click frmEditRegister.cmdAction(0)
