@@ -15,7 +15,7 @@
 namespace {
 
 constexpr int kHintWidth = 480;
-constexpr int kHintHeight = 372;
+constexpr int kHintHeight = 390;
 
 void append(std::string& bytes, std::uint32_t value, int width) {
   for (int byte = 0; byte < width; ++byte)

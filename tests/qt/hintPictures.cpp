@@ -23,7 +23,7 @@ TEST(HintPicturesTest, EachHintHasOneAndAllAreOfOneSize) {
     const std::string name = line.substr(0, line.find('\t'));
     const std::string path = std::string(ZELVS_FOLDER "/HintData/") + name;
     const QImage picture(QString::fromStdString(path), "BMP");
-    EXPECT_EQ(picture.size(), QSize(480, 372)) << name;
+    EXPECT_EQ(picture.size(), QSize(480, 390)) << name;
     contents.insert(readFile(path).value_or(""));
   }
   EXPECT_GT(hints, 0U);
