@@ -127,6 +127,7 @@ constexpr Part kBusParts[] = {
     {kAlways, Kind::kGround, 320, 750},
     {kAlways, Kind::kNote, 350, 716, 0, 0, "Big"},
     {kAlways, Kind::kNote, 350, 752, 0, 0, "Little"},
+    {kAlways, Kind::kNote, 300, 778, 0, 0, "1か所を短絡"},
     {kAlways, Kind::kSupply, 1076, 92},
     {kAlways, Kind::kGround, 1076, 700},
 };
@@ -198,7 +199,7 @@ Circuit centerBoard(Has has) {
   addPower(circuit, 20, 704);
   const std::string lines = has & kFull ? "全2重 " : "半2重 ";
   const int number = 1 + (has & kNarrow ? 1 : 0) + (has & kHalf ? 2 : 0);
-  circuit.addTitle("QVT60 センター基板", lines + (has & kWide ? "CPUバス16ビット" : "CPUバス8ビット"),
+  circuit.addTitle("QVT60 センターボード", lines + (has & kWide ? "CPUバス16ビット" : "CPUバス8ビット"),
                    "ZV-60-" + std::to_string(number));
   return circuit;
 }

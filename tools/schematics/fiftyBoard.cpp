@@ -255,6 +255,7 @@ void addPins(Circuit& circuit, std::string_view pattern) {
   }
   circuit.add(Net{kAlways, {{{kRail, top}, {kRail, bottom + 24}}}});
   circuit.add(Part{kAlways, Kind::kGround, kRail, bottom + 24});
+  if (pulled[0]) circuit.add(Part{kAlways, Kind::kNote, kRail + 20, bottom + 24, 0, 0, "SW9: ON (閉) = DI 1"});
   for (const int array : {0, 1}) {
     if (!pulled[array]) continue;
     const int left = legOf(8 * array) - 6;

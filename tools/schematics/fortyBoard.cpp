@@ -61,6 +61,7 @@ constexpr Part kInputParts[] = {
     {kAlways, Kind::kFrame, 68, 500, 40, 112, "SW2 DI8-15"},
     {kAlways, Kind::kSwitch, 62, 384, 52, 0, "", "", 8, 0, 14},
     {kAlways, Kind::kSwitch, 62, 508, 52, 0, "", "", 8, 0, 14},
+    {kAlways, Kind::kNote, 134, 494, 0, 0, "SW1, SW2: ON (閉) = DI 1"},
     {kAlways, Kind::kArray, 180, 350, 96, 18, "RN1 10kΩ×8"},
     {kAlways, Kind::kArray, 284, 350, 96, 18, "RN2 10kΩ×8"},
     {kAlways, Kind::kSupply, 168, 359},
@@ -214,8 +215,8 @@ constexpr Part kMasterParts[] = {
     {kAlways, Kind::kGround, 980, 346},
     {kRibbon, Kind::kRibbonCable, 1039, 138, 44, 210},
     {kRibbon, Kind::kNote, 990, 372, 0, 0, "リボンケーブル"},
-    {kRibbon, Kind::kNote, 990, 388, 0, 0, "子機 CN4 へ"},
-    {kAlone, Kind::kNote, 990, 372, 0, 0, "子機接続用"},
+    {kRibbon, Kind::kNote, 990, 388, 0, 0, "スレーブ CN4 へ"},
+    {kAlone, Kind::kNote, 990, 372, 0, 0, "スレーブ接続用"},
     {kAlone, Kind::kNote, 990, 388, 0, 0, "(未接続)"},
 };
 constexpr Pin kMasterPins[] = {
@@ -245,17 +246,17 @@ constexpr Net kMasterNets[] = {
 
 // What a slave has in place of line part, clock and address switches.
 constexpr Part kSlaveParts[] = {
-    {kAlways, Kind::kHead, 24, 22, 0, 0, "QVT40 子機 (回線部なし)"},
+    {kAlways, Kind::kHead, 24, 22, 0, 0, "QVT40 スレーブ (回線部なし)"},
     {kAlways, Kind::kBox, 70, 48, 48, 232, "CN4"},
     {kAlways, Kind::kRibbonCable, 18, 58, 51, 212},
-    {kAlways, Kind::kNote, 24, 296, 0, 0, "親機 CN3 より"},
+    {kAlways, Kind::kNote, 24, 296, 0, 0, "マスター CN3 より"},
     {kAlways, Kind::kSupply, 140, 60},
     {kAlways, Kind::kGround, 140, 268},
     {kAlways, Kind::kFlag, 140, 136, 0, 0, "CLK"},
     {kAlways, Kind::kFlag, 140, 162, 0, 0, "SA@", "", 6, 0, 16, 0},
-    {kAlways, Kind::kNote, 220, 250, 0, 0, "回線・クロック・局アドレスは親機の"},
+    {kAlways, Kind::kNote, 220, 250, 0, 0, "回線・クロック・局アドレスはマスターの"},
     {kAlways, Kind::kNote, 220, 266, 0, 0, "ものをリボンケーブルで受ける"},
-    {kAlways, Kind::kNote, 220, 290, 0, 0, "局アドレス = 親機 + 1 (NST=H)"},
+    {kAlways, Kind::kNote, 220, 290, 0, 0, "局アドレス = マスター + 1 (NST=H)"},
     {kAlways, Kind::kFlag, 630, 76, 0, 0, "CLK"},
     {kAlways, Kind::kFlag, 630, 252, 0, 0, "SA@", "", 6, 0, 16, 0},
     {kAlways, Kind::kOpen, 634, 156, 0, 0, "", "", 4, 0, 16},
@@ -294,12 +295,12 @@ Circuit fortyBoard(Has has) {
   addPower(circuit, 850, 668);
   if (has & kSlave) {
     circuit.add({kSlaveParts, kSlavePins, kSlaveNets});
-    circuit.addTitle("QVT40 入出力基板", "子機", "ZV-40-3");
+    circuit.addTitle("QVT40 入出力基板", "スレーブ", "ZV-40-3");
   } else {
     addLinePort(circuit, 16, 1);
     addClock(circuit);
     circuit.add({kMasterParts, kMasterPins, kMasterNets});
-    circuit.addTitle("QVT40 入出力基板", has & kRibbon ? "親機 (子機あり)" : "親機 (子機なし)",
+    circuit.addTitle("QVT40 入出力基板", has & kRibbon ? "マスター (スレーブあり)" : "マスター (スレーブなし)",
                      has & kRibbon ? "ZV-40-2" : "ZV-40-1");
   }
   return circuit;
