@@ -3,6 +3,10 @@
 #ini CPUTYPE=3
 #ini CABLECONNECTION=0
 #ini OPENWINDOW1=0
+click frmMDI.lblMemoryWindow
+click frmDumpSel.cmdAREA(0)
+click frmDumpCDIO.chkTopMost
+expect frmDumpCDIO.chkTopMost.Value 1
 dblclick frmMDI.lblNagigator
 expect frmNaviList.lstTitle.List(0) "レッスン1  はじめての Zelmar リンク (約10分)"
 select frmNaviList.lstTitle 0
