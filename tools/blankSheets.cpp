@@ -9,13 +9,11 @@
 #include <fstream>
 #include <string>
 
+#include "tools/hintSheet.h"
 #include "tools/schematics/boards.h"
 #include "ui/textFile.h"
 
 namespace {
-
-constexpr int kHintWidth = 480;
-constexpr int kHintHeight = 390;
 
 void append(std::string& bytes, std::uint32_t value, int width) {
   for (int byte = 0; byte < width; ++byte)
@@ -71,7 +69,7 @@ int main(int argc, char** argv) {
   }
   for (const std::string& line : *lines) {
     if (line.starts_with(';')) continue;
-    written &= write(folder / "HintData" / zelvs::fieldsOf(line, 2)[0], kHintWidth, kHintHeight);
+    written &= write(folder / "HintData" / zelvs::fieldsOf(line, 2)[0], zelvs::kHintWidth, zelvs::kHintHeight);
   }
   return written ? 0 : 1;
 }

@@ -12,15 +12,12 @@
 #include <cstdio>
 #include <span>
 
+#include "tools/hintSheet.h"
 #include "tools/sheet.h"
 
 namespace zelvs {
 
 namespace {
-
-/// One size for all, so that the hint window does not jump. It fits beside the other windows.
-constexpr int kWidth = 480;
-constexpr int kHeight = 390;
 
 enum class Writer { kNobody, kCpu, kChip };
 
@@ -280,7 +277,7 @@ constexpr int kRowHeight = 17;
 constexpr int kWideRowHeight = 20;
 constexpr int kBadgeHeight = 14;
 constexpr int kTextLeft = 62;
-constexpr int kLegendTop = kHeight - 18;
+constexpr int kLegendTop = kHintHeight - 18;
 constexpr int kRulePadding = 5;
 
 const QColor kHeadColour(0x1d, 0x4e, 0x79);
@@ -307,7 +304,7 @@ const Look& lookOf(Writer writer) {
 
 class Card {
  public:
-  Card() : image_(kWidth, kHeight, QImage::Format_RGB32) {
+  Card() : image_(kHintWidth, kHintHeight, QImage::Format_RGB32) {
     image_.fill(Qt::white);
     painter_.begin(&image_);
   }
@@ -351,8 +348,8 @@ class Card {
   }
 
   void drawHead(const Hint& hint) {
-    painter_.fillRect(0, 0, kWidth, kHeadHeight, kHeadColour);
-    const QRect line(kMargin, 0, kWidth - 2 * kMargin, kHeadHeight);
+    painter_.fillRect(0, 0, kHintWidth, kHeadHeight, kHeadColour);
+    const QRect line(kMargin, 0, kHintWidth - 2 * kMargin, kHeadHeight);
     text(line, Qt::AlignLeft, hint.name, 18, Qt::white, true);
     const int nameWidth = QFontMetrics(sheet::font(18, true)).horizontalAdvance(QString::fromUtf8(hint.name));
     text(line.adjusted(nameWidth + 12, 2, 0, 0), Qt::AlignLeft, hint.title, 12, QColor(0xd4, 0xe4, 0xf4));
@@ -389,7 +386,7 @@ class Card {
   int drawCommands(std::span<const char* const> commands, int top) {
     constexpr int kColumns = 8;
     constexpr int kCellHeight = 17;
-    constexpr int kCellWidth = (kWidth - 2 * kMargin) / kColumns;
+    constexpr int kCellWidth = (kHintWidth - 2 * kMargin) / kColumns;
     const Look& look = lookOf(Writer::kCpu);
     int i = 0;
     for (const char* command : commands) {
@@ -411,7 +408,7 @@ class Card {
       if (*line.head != 0) {
         const Look& look = lookOf(writerOf(hint.fields, line.head));
         painter_.setPen(kRuler);
-        if (&line != hint.meanings.data()) painter_.drawLine(kMargin, top, kWidth - kMargin, top);
+        if (&line != hint.meanings.data()) painter_.drawLine(kMargin, top, kHintWidth - kMargin, top);
         const QRect place(kMargin, top + (height - kBadgeHeight) / 2 + 1, kTextLeft - kMargin - 8, kBadgeHeight);
         box(place, look.fill, look.edge);
         // Ideographs reach lower than digits do: what is centred by the font looks low.
@@ -430,14 +427,14 @@ class Card {
   }
 
   void drawText(const char* words, int top, int height) {
-    text({kTextLeft, top, kWidth - kMargin - kTextLeft + 6, height}, Qt::AlignLeft, words, 12, kInk);
+    text({kTextLeft, top, kHintWidth - kMargin - kTextLeft + 6, height}, Qt::AlignLeft, words, 12, kInk);
   }
 
   /// The rules stand at the bottom; the result is their upper edge.
   int drawRules(std::span<const Line> rules) {
     const int height = static_cast<int>(rules.size()) * kRowHeight + 2 * kRulePadding;
     const int top = kLegendTop - 4 - height;
-    box({kMargin - 6, top, kWidth - 2 * kMargin + 12, height}, QColor(0xff, 0xfa, 0xe8), QColor(0xe3, 0xd6, 0xa4));
+    box({kMargin - 6, top, kHintWidth - 2 * kMargin + 12, height}, QColor(0xff, 0xfa, 0xe8), QColor(0xe3, 0xd6, 0xa4));
     int row = top + kRulePadding;
     for (const Line& rule : rules) {
       text({kMargin, row, kTextLeft - kMargin - 2, kRowHeight}, Qt::AlignLeft, rule.head, 12, kRuleInk, true);
@@ -469,7 +466,7 @@ class Card {
 int main(int count, char** arguments) {
   const QGuiApplication application(count, arguments);
   if (count != 2) {
-    std::fprintf(stderr, "usage: drawHints FOLDER\n");
+    std::fprintf(stderr, "usage: zelvs-draw-hints FOLDER\n");
     return 2;
   }
   const QDir folder(QString::fromLocal8Bit(arguments[1]));

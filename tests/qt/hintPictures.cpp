@@ -7,6 +7,7 @@
 #include <set>
 #include <string>
 
+#include "tools/hintSheet.h"
 #include "ui/textFile.h"
 
 namespace zelvs {
@@ -20,10 +21,10 @@ TEST(HintPicturesTest, EachHintHasOneAndAllAreOfOneSize) {
   for (const std::string& line : *lines) {
     if (line.starts_with(';')) continue;
     ++hints;
-    const std::string name = line.substr(0, line.find('\t'));
+    const std::string name = fieldsOf(line, 2)[0];
     const std::string path = std::string(ZELVS_FOLDER "/HintData/") + name;
     const QImage picture(QString::fromStdString(path), "BMP");
-    EXPECT_EQ(picture.size(), QSize(480, 390)) << name;
+    EXPECT_EQ(picture.size(), QSize(kHintWidth, kHintHeight)) << name;
     contents.insert(readFile(path).value_or(""));
   }
   EXPECT_GT(hints, 0U);
