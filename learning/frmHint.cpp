@@ -21,6 +21,7 @@ constexpr double kEmptyHeight = 4500;
 
 FrmHint::FrmHint() : Form("frmHint", kKind, Border::Fixed) {
   Caption = "Register Hint";
+  addMember("hintDir", &hintDir);
   tabHint.Tabs = 9;  // as many as there are hints of the maker; the file's take their place
   picHint.AutoSize = true;
   picHint.Visible = false;
