@@ -21,6 +21,7 @@ constexpr double kEmptyHeight = 4500;
 
 FrmHint::FrmHint() : Form("frmHint", kKind, Border::Fixed) {
   Caption = "Register Hint";
+  hideOnCloseBox();
   addMember("hintDir", &hintDir);
   tabHint.Tabs = 9;  // as many as there are hints of the maker; the file's take their place
   picHint.AutoSize = true;
@@ -51,7 +52,7 @@ void FrmHint::initHint() {
   for (const std::string& line : readTextFile(hintDir + "RegsterHint.TXT").value_or(std::vector<std::string>())) {
     if (line.starts_with(';')) continue;
     tabHint.Tabs = ++count;
-    const std::vector<std::string> fields = fieldsOf(line, 3);
+    const std::vector<std::string> fields = fieldsOf(line, 3);  // picture, caption, and what is ignored
     if (fields.size() > 1) tabHint.setTabCaption(count - 1, fields[1]);
     const Picture picture = loadPictureIfThere(hintDir + fields[0]);
     if (!picture.none()) ilsHint.add(picture);
@@ -59,11 +60,6 @@ void FrmHint::initHint() {
   if (ilsHint.count() > 0) picHint.Picture = ilsHint.image(1);
   picHint.Visible = true;
   tabHint.Tab = 0;
-}
-
-bool FrmHint::queryUnload(bool byUser) {
-  if (byUser) hide();
-  return !byUser;
 }
 
 void selectHintTab(std::string_view name) {

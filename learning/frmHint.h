@@ -32,7 +32,6 @@ class FrmHint final : public Form {
 
  protected:
   void load() override;
-  bool queryUnload(bool byUser) override;
 };
 
 inline FormRef<FrmHint> frmHint{"frmHint"};

@@ -38,6 +38,7 @@ FrmNaviList::FrmNaviList() : Form("frmNaviList", kKind, Border::Fixed) {
   constexpr double kButtonHeight = 375;
   constexpr double kButtonTop = kInside - kMargin - kButtonHeight;
   Caption = "Navigator List";
+  hideOnCloseBox();
   Width = kWidth;
   Height = kInside + platform().captionHeight();
 
@@ -82,17 +83,8 @@ void FrmNaviList::activated() {
   desk().focus(&lstTitle);
 }
 
-bool FrmNaviList::queryUnload(bool byUser) {
-  if (byUser) hide();
-  return !byUser;
-}
-
 void openNaviList() {
-  constexpr double kFromRight = 50;
-  constexpr double kFromBottom = 500;
-  const Screen screen = platform().screen();
-  frmNaviList->move(screen.width * kTwipsPerPixel - frmNaviList->Width - kFromRight,
-                    screen.height * kTwipsPerPixel - frmNaviList->Height - kFromBottom);
+  frmNaviList->moveToCorner(kLessonFromRight, kLessonFromBottom);
   frmNaviList->show(ShowMode::Modal, frmMDI.get());
 }
 

@@ -21,7 +21,6 @@ class FrmNaviList final : public Form {
  protected:
   void load() override;
   void activated() override;
-  bool queryUnload(bool byUser) override;
 };
 
 inline FormRef<FrmNaviList> frmNaviList{"frmNaviList"};

@@ -8,7 +8,6 @@
 #include "learning/naviIndex.h"
 #include "shell/frmMDI.h"
 #include "ui/desk.h"
-#include "ui/platform.h"
 #include "ui/runTimeError.h"
 #include "ui/textFile.h"
 #include "ui/utf8.h"
@@ -90,15 +89,12 @@ void FrmNavigation::activated() {
 }
 
 void FrmNavigation::resized() {
-  constexpr double kFromRight = 50;
-  constexpr double kFromBottom = 500;
   constexpr double kGap = 100;
   const auto room = [](double width) { return std::max(width, 0.0); };
   for (PictureBox& strip : picNav)
     strip.Width = room(Width - 2 * kEdge);
   shpPaper.Width = room(Width - 2 * kEdge + 2 * kPaperEdge);
-  const Screen screen = platform().screen();
-  move(screen.width * kTwipsPerPixel - Width - kFromRight, screen.height * kTwipsPerPixel - Height - kFromBottom);
+  moveToCorner(kLessonFromRight, kLessonFromBottom);
   cmdAction(3).Left = Width - cmdAction(3).Width - 2 * kEdge;
   cmdAction(2).Left = cmdAction(3).Left - cmdAction(2).Width - kGap;
   lblIndex.Left = cmdAction(2).Left - lblIndex.Width - kGap;

@@ -10,6 +10,10 @@
 
 namespace zelvs {
 
+/// Where the lesson and the list of lessons stand: twips from the right and the bottom of the screen.
+inline constexpr double kLessonFromRight = 50;
+inline constexpr double kLessonFromBottom = 500;
+
 /// A lesson, page by page, in the right bottom corner of the screen. It only tells: what is done is up to the user.
 /// Three lines of its file are a page, of which the third is never shown; lines behind the last whole page neither.
 class FrmNavigation final : public Form {

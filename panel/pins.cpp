@@ -163,6 +163,11 @@ struct Offset {
   double left;
 };
 
+void moveBesideBoard(Form& form, const Offset& place) {
+  form.move(frmHard->Left + place.left, frmHard->Top + place.top);
+  form.keepOnScreen();
+}
+
 // Twips from the panel's corner, beside the board. Index: picSDI.
 constexpr std::array<Offset, 4> kSerialEditorPlaces = {{{2800, 7500}, {2800, 12600}, {5900, 7500}, {5900, 12600}}};
 
@@ -186,9 +191,7 @@ void picSDI_DblClick(int i) {
   dialog.lblAdr.Caption = std::to_string(i + 1);
   dialog.lblSECaution.Visible = false;
   if (frmMessage.visible()) frmMessage->hide();
-  const Offset& place = kSerialEditorPlaces[static_cast<std::size_t>(i)];
-  dialog.move(frmHard->Left + place.left, frmHard->Top + place.top);
-  dialog.keepOnScreen();
+  moveBesideBoard(dialog, kSerialEditorPlaces[static_cast<std::size_t>(i)]);
   dialog.show(ShowMode::Modal, frmMDI.get());
   frmHard->picSerialInt(i).Visible = false;
   if (dialog.cancelled == kFalse) sendSerialWord(i, dialog.enteredValue);
@@ -208,9 +211,7 @@ constexpr std::array<Offset, 5> kExplanationPlaces = {
     {{4000, 7900}, {4000, 13300}, {7100, 7900}, {7100, 13300}, {9000, 7900}}};
 
 void explainStb(int board) {
-  const Offset& place = kExplanationPlaces[static_cast<std::size_t>(std::min(board, 4))];
-  frmOsiro->move(frmHard->Left + place.left, frmHard->Top + place.top);
-  frmOsiro->keepOnScreen();
+  moveBesideBoard(*frmOsiro, kExplanationPlaces[static_cast<std::size_t>(std::min(board, 4))]);
   showStbPicture(board);
   if (!frmOsiro.visible()) frmOsiro->show(ShowMode::Modeless, frmMDI.get());
 }

@@ -105,6 +105,7 @@ constexpr double kInside = 480;
 
 FrmDefault::FrmDefault() : Form("frmDefault", kKind, Border::Fixed) {
   Caption = "システムデフォルト設定";
+  hideOnCloseBox();
   setTopmost();  // from the start, so that no window has to be made a second time
   Width = kWidth * kPixel;
   Height = kInside * kPixel + platform().captionHeight();
@@ -193,12 +194,6 @@ void FrmDefault::load() {
 void FrmDefault::activated() {
   setTopmost();
   if (activeControl() == nullptr) desk().focus(&chkDef(2));  // the first one by its place
-}
-
-bool FrmDefault::queryUnload(bool byUser) {
-  // Unloading would forget what the controls show.
-  if (byUser) hide();
-  return !byUser;
 }
 
 void saveDialogSettings() {

@@ -33,7 +33,6 @@ class FrmDefault final : public Form {
  protected:
   void load() override;
   void activated() override;
-  bool queryUnload(bool byUser) override;
 };
 
 inline FormRef<FrmDefault> frmDefault{"frmDefault"};

@@ -10,15 +10,13 @@
 #include <string>
 
 #include "tools/hintSheet.h"
+#include "tools/littleEndian.h"
 #include "tools/schematics/boards.h"
 #include "ui/textFile.h"
 
 namespace {
 
-void append(std::string& bytes, std::uint32_t value, int width) {
-  for (int byte = 0; byte < width; ++byte)
-    bytes += static_cast<char>(value >> 8 * byte & 0xFF);
-}
+using zelvs::littleEndian;
 
 /// A bitmap of one bit a pixel, both colours of which are white.
 std::string whiteBitmap(int width, int height) {
@@ -26,18 +24,18 @@ std::string whiteBitmap(int width, int height) {
   const auto rowBytes = static_cast<std::uint32_t>((width + 31) / 32 * 4);
   const std::uint32_t pixels = rowBytes * static_cast<std::uint32_t>(height);
   std::string bytes = "BM";
-  append(bytes, kHeads + pixels, 4);
-  append(bytes, 0, 4);
-  append(bytes, kHeads, 4);
-  append(bytes, 40, 4);
-  append(bytes, static_cast<std::uint32_t>(width), 4);
-  append(bytes, static_cast<std::uint32_t>(height), 4);
-  append(bytes, 1, 2);  // planes
-  append(bytes, 1, 2);  // bits a pixel
+  bytes += littleEndian(kHeads + pixels, 4);
+  bytes += littleEndian(0, 4);
+  bytes += littleEndian(kHeads, 4);
+  bytes += littleEndian(40, 4);
+  bytes += littleEndian(static_cast<std::uint32_t>(width), 4);
+  bytes += littleEndian(static_cast<std::uint32_t>(height), 4);
+  bytes += littleEndian(1, 2);  // planes
+  bytes += littleEndian(1, 2);  // bits a pixel
   for (int field = 0; field < 6; ++field)
-    append(bytes, 0, 4);
+    bytes += littleEndian(0, 4);
   for (int colour = 0; colour < 2; ++colour)
-    append(bytes, 0x00FFFFFF, 4);
+    bytes += littleEndian(0x00FFFFFF, 4);
   return bytes.append(pixels, '\0');
 }
 

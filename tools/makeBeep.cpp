@@ -7,6 +7,8 @@
 #include <numbers>
 #include <string>
 
+#include "tools/littleEndian.h"
+
 namespace {
 
 constexpr int kSampleRate = 22050;
@@ -18,13 +20,7 @@ constexpr double kAttack = 0.006;   // seconds
 constexpr double kRelease = 0.030;  // seconds
 constexpr double kDecay = 0.06;     // seconds down to 1/e
 
-/// A number of the given width, low byte first.
-std::string little(std::uint32_t value, int bytes) {
-  std::string text;
-  for (int i = 0; i < bytes; ++i)
-    text += static_cast<char>(value >> 8 * i & 0xFF);
-  return text;
-}
+using zelvs::littleEndian;
 
 /// Rises and falls along half a cosine: an edge in the envelope would be heard as a click.
 double edge(double seconds, double length) {
@@ -43,13 +39,13 @@ std::int16_t sampleAt(int index) {
 std::string waveFile() {
   constexpr std::uint32_t kDataBytes = kSamples * kBytesPerSample;
   constexpr std::uint32_t kFormatBytes = 16;
-  std::string format = little(1, 2) + little(1, 2);  // PCM, one channel
-  format += little(kSampleRate, 4) + little(kSampleRate * kBytesPerSample, 4);
-  format += little(kBytesPerSample, 2) + little(8 * kBytesPerSample, 2);
-  std::string file = "RIFF" + little(4 + 8 + kFormatBytes + 8 + kDataBytes, 4) + "WAVE";
-  file += "fmt " + little(kFormatBytes, 4) + format + "data" + little(kDataBytes, 4);
+  std::string format = littleEndian(1, 2) + littleEndian(1, 2);  // PCM, one channel
+  format += littleEndian(kSampleRate, 4) + littleEndian(kSampleRate * kBytesPerSample, 4);
+  format += littleEndian(kBytesPerSample, 2) + littleEndian(8 * kBytesPerSample, 2);
+  std::string file = "RIFF" + littleEndian(4 + 8 + kFormatBytes + 8 + kDataBytes, 4) + "WAVE";
+  file += "fmt " + littleEndian(kFormatBytes, 4) + format + "data" + littleEndian(kDataBytes, 4);
   for (int i = 0; i < kSamples; ++i)
-    file += little(static_cast<std::uint16_t>(sampleAt(i)), kBytesPerSample);
+    file += littleEndian(static_cast<std::uint16_t>(sampleAt(i)), kBytesPerSample);
   return file;
 }
 

@@ -20,6 +20,10 @@ void Form::hide() {
 
 bool Form::close(bool byUser) {
   const Desk::Event event;
+  if (byUser && hidesOnCloseBox_) {
+    hide();
+    return false;
+  }
   if (!queryUnload(byUser)) return false;
   if (desk().ended()) return true;
   unloading();
@@ -63,6 +67,11 @@ void Form::keepOnScreen() {
   const double right = screen.width * kTwipsPerPixel - Width;
   const double bottom = screen.height * kTwipsPerPixel - Height;
   move(std::max(0.0, std::min<double>(Left, right)), std::max(0.0, std::min<double>(Top, bottom)));
+}
+
+void Form::moveToCorner(double fromRight, double fromBottom) {
+  const Screen screen = platform().screen();
+  move(screen.width * kTwipsPerPixel - Width - fromRight, screen.height * kTwipsPerPixel - Height - fromBottom);
 }
 
 double Form::clientHeight() const {

@@ -69,6 +69,8 @@ class Form : public PropertyOwner {
   /// Shifts a window that stands by itself until all of it lies on the screen; what is larger than the screen keeps
   /// its left top corner there.
   void keepOnScreen();
+  /// Puts a window that stands by itself into the right bottom corner of the screen, at these distances in twips.
+  void moveToCorner(double fromRight, double fromBottom);
 
   double clientWidth() const { return Width; }
   /// Twips per unit of the scale that the form's controls are placed in: 1, or 15 for pixels.
@@ -111,6 +113,8 @@ class Form : public PropertyOwner {
   virtual bool queryUnload(bool /*byUser*/) { return true; }
   virtual void unloading() {}
   void setUnit(double twips) { unit_ = twips; }
+  /// The close box only hides the form, so that it keeps what its controls show; the program still unloads it.
+  void hideOnCloseBox() { hidesOnCloseBox_ = true; }
   void addMember(std::string name, Member member) { members_.emplace_back(std::move(name), member); }
 
  private:
@@ -129,6 +133,7 @@ class Form : public PropertyOwner {
   bool modal_ = false;
   bool topmost_ = false;
   bool floating_ = false;
+  bool hidesOnCloseBox_ = false;
   Form* owner_ = nullptr;
   Control* activeControl_ = nullptr;
   unsigned long lastActive_ = 0;  // rises with each activation of any form

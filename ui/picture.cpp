@@ -47,19 +47,18 @@ std::int32_t littleEndian32(const unsigned char* bytes) {
                                    static_cast<std::uint32_t>(bytes[3]) << 24);
 }
 
-/// What a file turned out to be: a picture, or the reason why it is none.
-struct Opened {
-  std::optional<PictureFile> picture;
-  std::string refusal;
-};
-
-Opened readBitmapHead(const std::string& path) {
+/// Nothing for a file that is no picture; refusal then says why.
+std::optional<PictureFile> readBitmapHead(const std::string& path, std::string& refusal) {
   // Only a plain file is opened: a pipe that nobody writes to would be waited for without end.
   std::error_code error;
   const bool there = std::filesystem::exists(path, error);
-  if (there && !std::filesystem::is_regular_file(path, error)) return {{}, "not a bitmap picture: " + path};
+  refusal = "not a bitmap picture: " + path;
+  if (there && !std::filesystem::is_regular_file(path, error)) return std::nullopt;
   std::ifstream file(path, std::ios::binary);
-  if (!there || !file) return {{}, "picture file not found: " + path};
+  if (!there || !file) {
+    refusal = "picture file not found: " + path;
+    return std::nullopt;
+  }
   std::array<unsigned char, 26> head{};
   file.read(reinterpret_cast<char*>(head.data()), head.size());
   const bool bitmap = file.gcount() == static_cast<std::streamsize>(head.size()) && head[0] == 'B' && head[1] == 'M';
@@ -68,10 +67,10 @@ Opened readBitmapHead(const std::string& path) {
   const std::int32_t width = littleEndian32(&head[18]);
   const std::int32_t height = littleEndian32(&head[22]);
   if (!bitmap || width < 1 || width > kLargestSide || height == 0 || height < -kLargestSide || height > kLargestSide) {
-    return {{}, "not a bitmap picture: " + path};
+    return std::nullopt;
   }
   const auto slash = path.find_last_of("/\\");
-  return {PictureFile{path, slash == std::string::npos ? path : path.substr(slash + 1), width, std::abs(height)}, {}};
+  return PictureFile{path, slash == std::string::npos ? path : path.substr(slash + 1), width, std::abs(height)};
 }
 
 /// Pictures are kept for the whole run: a schematic that is looked at again costs no second reading.
@@ -79,12 +78,9 @@ Picture findPicture(const std::string& path, std::string& refusal) {
   static std::map<std::string, PictureFile> known;
   auto found = known.find(path);
   if (found == known.end()) {
-    Opened opened = readBitmapHead(path);
-    if (!opened.picture) {
-      refusal = std::move(opened.refusal);
-      return {};
-    }
-    found = known.emplace(path, std::move(*opened.picture)).first;
+    const std::optional<PictureFile> file = readBitmapHead(path, refusal);
+    if (!file) return {};
+    found = known.emplace(path, *file).first;
   }
   return Picture{nullptr, 0, &found->second};
 }
