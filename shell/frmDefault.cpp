@@ -97,7 +97,6 @@ struct Placed {
   Control* container = nullptr;
 };
 
-constexpr double kPixel = 15;
 constexpr double kWidth = 652;
 constexpr double kInside = 480;
 
@@ -107,8 +106,8 @@ FrmDefault::FrmDefault() : Form("frmDefault", kKind, Border::Fixed) {
   Caption = "システムデフォルト設定";
   hideOnCloseBox();
   setTopmost();  // from the start, so that no window has to be made a second time
-  Width = kWidth * kPixel;
-  Height = kInside * kPixel + platform().captionHeight();
+  Width = kWidth * kTwipsPerPixel;
+  Height = kInside * kTwipsPerPixel + platform().captionHeight();
 
   Control* const windows = &Frame1(1);
   Control* const bench = &Frame1(0);
@@ -168,7 +167,8 @@ FrmDefault::FrmDefault() : Form("frmDefault", kKind, Border::Fixed) {
   for (const Placed& row : rows) {
     if (row.container != nullptr) row.control.placeIn(*row.container);
     row.control.Caption = row.caption;
-    row.control.move(row.left * kPixel, row.top * kPixel, row.width * kPixel, row.height * kPixel);
+    row.control.move(row.left * kTwipsPerPixel, row.top * kTwipsPerPixel, row.width * kTwipsPerPixel,
+                     row.height * kTwipsPerPixel);
   }
 
   cmdAction(0).onClick = [this] { hide(); };
