@@ -1,7 +1,7 @@
 #include "chip/accessRules.h"
 
-#include "kernel/state.h"
-#include "panel/frmHard.h"
+#include "bench/frmHard.h"
+#include "state/state.h"
 
 namespace zelvs {
 
@@ -56,10 +56,6 @@ void releaseHalf(int index) {
 
 int indexOfAddress(int address) {
   return bigEndian() ? address ^ 1 : address;
-}
-
-bool scanLampLit() {
-  return frmHard->picScanLed.Tag == "1";
 }
 
 std::string_view writeWord(int address, std::uint8_t high, std::uint8_t low) {

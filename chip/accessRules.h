@@ -14,9 +14,6 @@ namespace zelvs {
 /// Where the byte of an address lies in chipMemory, by cpuType.
 int indexOfAddress(int address);
 
-/// True while the lamp of the scan is lit.
-bool scanLampLit();
-
 /// The CPU writes a word; an odd address means the word that holds it. Returns the text for the user, empty when all
 /// was written: while a scan runs, the high byte of a control word keeps its value.
 std::string_view writeWord(int address, std::uint8_t high, std::uint8_t low);

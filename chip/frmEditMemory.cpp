@@ -1,12 +1,11 @@
 #include "chip/frmEditMemory.h"
 
 #include "chip/accessRules.h"
-#include "chip/hexField.h"
-#include "kernel/cellAddress.h"
-#include "kernel/hexText.h"
-#include "kernel/state.h"
-#include "kernel/windowRefresh.h"
-#include "learning/messages.h"
+#include "dialogs/messages.h"
+#include "state/cellAddress.h"
+#include "state/state.h"
+#include "text/hexText.h"
+#include "ui/hexField.h"
 
 namespace zelvs {
 
@@ -39,8 +38,7 @@ void FrmEditMemory::write() {
   const std::string_view message =
       wordAccess() ? writeWord(address(), static_cast<std::uint8_t>(enteredHigh()), low) : writeByte(address(), low);
   unmark();
-  refreshMemoryWindows();
-  refreshRegisterWindow();
+  tellWritten();
   hide();
   if (!message.empty()) showMessageBeside(*this, message);
 }

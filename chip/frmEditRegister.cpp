@@ -2,27 +2,13 @@
 
 #include "chip/accessRules.h"
 #include "chip/frmMemoryRead.h"
-#include "chip/hexField.h"
 #include "chip/registerWrite.h"
-#include "kernel/hexText.h"
-#include "kernel/state.h"
-#include "kernel/windowRefresh.h"
-#include "learning/messages.h"
-#include "monitor/frmRegister.h"
+#include "dialogs/messages.h"
+#include "state/state.h"
+#include "text/hexText.h"
+#include "ui/hexField.h"
 
 namespace zelvs {
-
-namespace {
-
-void mark(int row, bool high, bool low) {
-  if (row < 1 || row > kRegisterRows || !frmRegister.loaded()) return;
-  for (Label* cell : {&frmRegister->lblValH(row), &frmRegister->lblBinH(row)})
-    cell->ForeColor = high ? kRed : kBlack;
-  for (Label* cell : {&frmRegister->lblValL(row), &frmRegister->lblBinL(row)})
-    cell->ForeColor = low ? kRed : kBlack;
-}
-
-}  // namespace
 
 FrmEditRegister::FrmEditRegister() : WriteDialog("frmEditRegister", kKind, EnterKey::ToLastDigit) {
   Caption = "Register Write";
@@ -42,7 +28,7 @@ void FrmEditRegister::refresh() {
   lblAdr.Caption = hexText(static_cast<unsigned>(address), 3) + "H " + editRegisterName + " " + bits;
   lblBitInd.Caption = "bit " + bits;
   showValue(chipMemory[high], chipMemory[writesLow() ? low : high]);
-  mark(editRow, writesHigh(), writesLow());
+  mark(writesHigh(), writesLow());
 }
 
 void FrmEditRegister::write() {
@@ -52,8 +38,7 @@ void FrmEditRegister::write() {
   if (writesHigh()) value.high = static_cast<std::uint8_t>(wordAccess() ? enteredHigh() : enteredLow());
   const WriteReport report = writeRegister(editRegisterAddress, value);
   if (chipMemory[kHprLow] != readSide && frmMemoryRead.visible()) frmMemoryRead->initReadMemory();
-  refreshMemoryWindows();
-  refreshRegisterWindow();
+  tellWritten();
   unmark();
   hide();
   if (!report.message.empty()) showMessageBeside(*this, report.message);
@@ -61,7 +46,15 @@ void FrmEditRegister::write() {
 }
 
 void FrmEditRegister::unmark() {
-  mark(editRow, false, false);
+  mark(false, false);
+  cells = {};
+}
+
+void FrmEditRegister::mark(bool high, bool low) {
+  for (Label* cell : cells.high)
+    if (cell != nullptr) cell->ForeColor = high ? kRed : kBlack;
+  for (Label* cell : cells.low)
+    if (cell != nullptr) cell->ForeColor = low ? kRed : kBlack;
 }
 
 }  // namespace zelvs

@@ -2,15 +2,14 @@
 
 #include <string>
 
-#include "chip/hexField.h"
-#include "kernel/beep.h"
-#include "kernel/hexText.h"
-#include "kernel/state.h"
-#include "learning/frmMessage.h"
-#include "learning/messages.h"
-#include "panel/frmHard.h"
-#include "shell/frmMDI.h"
+#include "bench/frmHard.h"
+#include "dialogs/beep.h"
+#include "dialogs/frmMessage.h"
+#include "dialogs/messages.h"
+#include "state/state.h"
+#include "text/hexText.h"
 #include "ui/desk.h"
+#include "ui/hexField.h"
 
 namespace zelvs {
 
@@ -119,7 +118,7 @@ void openMemoryRead() {
   frmMemoryRead->move(frmHard->Left + 1800, frmHard->Top + 2500);
   frmMemoryRead->keepOnScreen();
   if (frmMessage.visible()) frmMessage->hide();
-  frmMemoryRead->show(ShowMode::Modeless, frmMDI.get());
+  frmMemoryRead->show(ShowMode::Modeless, desk().frame());
   desk().focus(&frmMemoryRead->txtAddress);
 }
 

@@ -3,9 +3,9 @@
 #include <array>
 #include <string>
 
-#include "kernel/hexText.h"
-#include "kernel/simulation.h"
-#include "kernel/state.h"
+#include "link/simulation.h"
+#include "state/state.h"
+#include "text/hexText.h"
 
 namespace zelvs {
 
@@ -31,7 +31,7 @@ constexpr std::uint8_t kBcrLowBits = kBcrFullDuplex | kBcrClockMask;
 constexpr std::uint8_t kBcrHighBits = 0x07;
 constexpr std::uint8_t kClearCount = 0x01;
 
-bool fullDuplex() {
+bool registerFullDuplex() {
   return (chipMemory[kBcrLow] & kBcrFullDuplex) != 0;
 }
 
@@ -46,7 +46,7 @@ bool scanRefused(int high, int low) {
   const bool asksOneShot = high != 0;
   const bool asksContinuous = low != 0;
   // In full duplex a scan cannot end at its first station.
-  const bool tooShort = fullDuplex() && ((high & kStationBits) == 1 || (low & kStationBits) == 1);
+  const bool tooShort = registerFullDuplex() && ((high & kStationBits) == 1 || (low & kStationBits) == 1);
   return (asksOneShot && (asksContinuous || continuous || oneShot)) || (asksContinuous && oneShot) || tooShort;
 }
 
@@ -119,10 +119,6 @@ constexpr std::array kWriters = {writeScr, writeSsr, writeHpr, writeInt0r, write
 static_assert(kWriters.size() == kRegisterRows);
 
 }  // namespace
-
-bool scanActive() {
-  return continuousScanActive != kFalse || oneShotScanActive != kFalse;
-}
 
 WriteReport writeRegister(int address, const RegisterValue& value) {
   if (address < kScrLow || address > kBcrLow || address % 2 != 0) {

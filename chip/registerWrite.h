@@ -21,9 +21,6 @@ struct WriteReport {
 inline constexpr std::string_view kReadOnlyRegister = "このレジスタはリードオンリーです。";
 inline constexpr std::string_view kRegisterProtected = "スキャン中はライトプロテクト。";
 
-/// True while one of the two scans runs, as the registers see it.
-bool scanActive();
-
 /// The CPU writes a register. address is even, 0x580 to 0x58E; any other is a run-time error. A refused write changes
 /// nothing.
 WriteReport writeRegister(int address, const RegisterValue& value);

@@ -1,9 +1,9 @@
 #include "chip/writeDialog.h"
 
-#include "chip/hexField.h"
-#include "kernel/hexText.h"
-#include "kernel/state.h"
+#include "state/state.h"
+#include "text/hexText.h"
 #include "ui/desk.h"
+#include "ui/hexField.h"
 #include "ui/platform.h"
 
 namespace zelvs {
@@ -21,7 +21,7 @@ WriteDialog::WriteDialog(std::string_view name, FormKind kind, EnterKey enterKey
   constexpr double kInside = 2190;
   constexpr double kButtonHeight = 375;
   Width = kWidth;
-  Height = kInside + platform().captionHeight();
+  Height = kInside + kCaptionHeight;
 
   lblAdr.FontSize = 12;
   lblAdr.FontBold = true;

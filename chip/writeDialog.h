@@ -1,5 +1,6 @@
 #pragma once
 
+#include <functional>
 #include <string>
 
 #include "ui/controls.h"
@@ -20,6 +21,9 @@ class WriteDialog : public Form {
   Label lblBitInd{this, "lblBitInd"};
   ControlArray<CommandButton> cmdAction{this, "cmdAction", 0, 1};  // write, cancel
 
+  /// What the opener wants done when something has been written: its windows show the bytes.
+  std::function<void()> onWritten;
+
   bool wordAccess() const { return opnAccess(0).Value; }
   /// Allows word access on a 16-bit bus only, and selects it there.
   void chooseAccess();
@@ -34,6 +38,9 @@ class WriteDialog : public Form {
   /// Takes the red off the cells of the window behind.
   virtual void unmark() = 0;
 
+  void tellWritten() const {
+    if (onWritten) onWritten();
+  }
   /// Gives the field its length and fills it; high counts in a word only.
   void showValue(unsigned high, unsigned low);
   unsigned enteredHigh() const;

@@ -2,18 +2,18 @@
 
 #include <string>
 
-#include "kernel/cellAddress.h"
-#include "kernel/hexText.h"
-#include "kernel/state.h"
-#include "kernel/tagCountdown.h"
-#include "learning/frmHint.h"
-#include "learning/messages.h"
+#include "bench/frmHard.h"
+#include "bench/ilsMouse.h"
+#include "dialogs/messages.h"
 #include "monitor/frmDumpSel.h"
+#include "monitor/frmHint.h"
 #include "monitor/mduAPI.h"
 #include "monitor/mduMemoryWindow.h"
-#include "panel/frmHard.h"
-#include "shell/frmMDI.h"
+#include "state/cellAddress.h"
+#include "state/state.h"
+#include "text/hexText.h"
 #include "ui/platform.h"
+#include "ui/tagCountdown.h"
 
 namespace zelvs {
 
@@ -56,8 +56,8 @@ constexpr std::array<Protection, 3> kProtections = {{
 }};
 
 const Protection* protectionOf(int window, int cell) {
-  if (!(frmHard->picScanLed.Tag == "1")) return nullptr;
-  const bool byteBus = (cpuType & 1) != 0;
+  if (!scanLampLit()) return nullptr;
+  const bool byteBus = !wideBus();
   for (const Protection& rule : kProtections) {
     if (rule.window != window || cell < rule.firstCell || cell > rule.lastCell) continue;
     if (!rule.highBytesOnly || (byteBus && cell % 2 == 0)) return &rule;
@@ -126,7 +126,7 @@ void FrmDump::placeControls() {
   };
   const int rows = area().count / kDumpColumns;
   const double areaHeight = kFirstRow + rows * kRowHeight + kBelowRows;
-  Height = platform().captionHeight() + kAreaTop + areaHeight + kBelowArea;
+  Height = kCaptionHeight + kAreaTop + areaHeight + kBelowArea;
 
   text(lblCPUType, "CPU Type", kHexLeft + 60, 60, 1650);
   lblCPUType.FontBold = true;
@@ -236,13 +236,9 @@ void FrmDump::attachHandlers() {
 }
 
 void FrmDump::load() {
-  constexpr int kDoubleClickPointer = 2;
-  const Picture pointer = frmMDI->ilsMouse.image(kDoubleClickPointer);
   for (ControlArray<Label>* cells : {&lblData, &lblASC}) {
-    for (Label& cell : *cells) {
-      cell.MousePointer = kCustomPointer;
-      cell.MouseIcon = pointer;
-    }
+    for (Label& cell : *cells)
+      setPointer(cell, kDoubleClickPointer);
   }
   lblPointAddress.Caption = "";
   lblPointSA.Caption = "";

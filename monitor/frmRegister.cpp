@@ -4,17 +4,18 @@
 #include <string>
 #include <string_view>
 
+#include "bench/ilsMouse.h"
 #include "chip/frmEditRegister.h"
 #include "chip/registerWrite.h"
-#include "kernel/hexText.h"
-#include "kernel/state.h"
-#include "kernel/tagCountdown.h"
-#include "kernel/windowRefresh.h"
-#include "learning/frmHint.h"
-#include "learning/frmMessage.h"
-#include "learning/messages.h"
-#include "shell/frmMDI.h"
+#include "dialogs/frmMessage.h"
+#include "dialogs/messages.h"
+#include "monitor/frmHint.h"
+#include "monitor/windowRefresh.h"
+#include "state/state.h"
+#include "text/hexText.h"
+#include "ui/desk.h"
 #include "ui/platform.h"
+#include "ui/tagCountdown.h"
 
 namespace zelvs {
 
@@ -111,10 +112,8 @@ FrmRegister::FrmRegister() : Form("frmRegister", kKind, Border::Fixed) {
 
 void FrmRegister::load() {
   for (int row = 1; row <= 9; ++row) {
-    for (Label* cell : {&lblValH(row), &lblValL(row), &lblBinH(row), &lblBinL(row)}) {
-      cell->MousePointer = kCustomPointer;
-      cell->MouseIcon = frmMDI->ilsMouse.image(2);
-    }
+    for (Label* cell : {&lblValH(row), &lblValL(row), &lblBinH(row), &lblBinL(row)})
+      setPointer(*cell, kDoubleClickPointer);
   }
   timRegister.Interval = 1000;
 }
@@ -137,16 +136,18 @@ void openRegisterEditor(FrmRegister& form, std::string_view name, int row, int c
   }
   selectHintTab(name);
   FrmEditRegister& dialog = *frmEditRegister;
-  const double caption = platform().captionHeight();
   const double cellBottom = form.lblValH(row).Top + 2 * form.lblValH(row).Height;
-  dialog.move(form.Left, frmMDI->Top + caption + frmMDI->ToolBox.Height + form.Top + caption + cellBottom);
+  // Counted as for a child of the frame, which this window once was: it opens that much below its row.
+  dialog.move(form.Left, desk().frame()->clientAreaTop() + form.Top + kCaptionHeight + cellBottom);
   dialog.editRegisterName = name;
   dialog.editRegisterAddress = static_cast<std::int16_t>(hexValue(std::string(regAddressText(name))));
   dialog.editRow = static_cast<std::int16_t>(row);
   dialog.editLowByte = static_cast<std::int16_t>(cell);
+  dialog.cells = {{&form.lblValH(row), &form.lblBinH(row)}, {&form.lblValL(row), &form.lblBinL(row)}};
+  dialog.onWritten = refreshWindows;
   dialog.chooseAccess();
   if (frmMessage.visible()) frmMessage->hide();
-  dialog.show(ShowMode::Modal, frmMDI.get());
+  dialog.show(ShowMode::Modal, desk().frame());
 }
 
 void refreshRegisterWindow() {

@@ -1,7 +1,6 @@
 #include "monitor/mduAPI.h"
 
-#include "shell/frmMDI.h"
-#include "ui/form.h"
+#include "ui/desk.h"
 
 namespace zelvs {
 
@@ -9,7 +8,7 @@ void setWindowFloating(Form& form, bool onTop) {
   const double direction = onTop ? 1 : -1;
   form.hide();
   form.setFloating(onTop);
-  form.Top = form.Top + direction * (frmMDI->ToolBox.Height + kClientEdge);
+  form.Top = form.Top + direction * (desk().frame()->barHeight() + kClientEdge);
   form.Left = form.Left + direction * kClientEdge;
   form.show();
 }

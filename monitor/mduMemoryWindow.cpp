@@ -5,16 +5,16 @@
 #include <cstring>
 #include <string>
 
+#include "bench/frmHard.h"
 #include "chip/frmEditMemory.h"
-#include "kernel/hexText.h"
-#include "kernel/state.h"
-#include "learning/frmMessage.h"
+#include "dialogs/frmMessage.h"
 #include "monitor/frmDumpC17.h"
 #include "monitor/frmDumpCDIO.h"
 #include "monitor/frmDumpDRC.h"
 #include "monitor/mduAPI.h"
-#include "panel/frmHard.h"
-#include "shell/frmMDI.h"
+#include "state/state.h"
+#include "text/hexText.h"
+#include "ui/desk.h"
 #include "ui/platform.h"
 
 namespace zelvs {
@@ -149,6 +149,17 @@ void refreshMemoryWindows() {
     refreshDumpWindow(window);
 }
 
+void repaintMemoryWindows() {
+  forceMemoryRepaint = kTrue;
+  refreshMemoryWindows();
+  forceMemoryRepaint = kFalse;
+}
+
+void refreshWindows() {
+  refreshRegisterWindow();
+  refreshMemoryWindows();
+}
+
 void resetDumpLayout(int window) {
   const bool all = (window & 0xFFFF) == 0xFFFF;
   for (int at = all ? 0 : window; at <= (all ? 2 : window); ++at) {
@@ -162,9 +173,7 @@ void resetDumpLayout(int window) {
       setHeaderLittle(form);
     }
   }
-  forceMemoryRepaint = kTrue;
-  refreshMemoryWindows();
-  forceMemoryRepaint = kFalse;
+  repaintMemoryWindows();
 }
 
 void setHeaderBig(FrmDump& form) {
@@ -210,10 +219,8 @@ void openDumpWindowsOfSettings() {
 }
 
 double memoryEditorTop(const FrmDump& form, int cellIndex) {
-  const double caption = platform().captionHeight();
   const Label& cell = form.lblData(cellIndex);
-  return frmMDI->Top + caption + frmMDI->ToolBox.Height + form.Top + caption + form.Picture1.Top + cell.Top +
-         2 * cell.Height;
+  return desk().frame()->clientAreaTop() + form.Top + kCaptionHeight + form.Picture1.Top + cell.Top + 2 * cell.Height;
 }
 
 void openMemoryEditor(FrmDump& form, std::string_view firstRowCaption, int cellIndex, double left) {
@@ -222,9 +229,10 @@ void openMemoryEditor(FrmDump& form, std::string_view firstRowCaption, int cellI
   editor.cells = &form.lblData;
   editor.editCellIndex = static_cast<std::int16_t>(cellIndex);
   editor.editFirstRowCaption = firstRowCaption;
+  editor.onWritten = refreshWindows;
   editor.chooseAccess();
   if (frmMessage.visible()) frmMessage->hide();
-  editor.show(ShowMode::Modal, frmMDI.get());
+  editor.show(ShowMode::Modal, desk().frame());
 }
 
 }  // namespace zelvs

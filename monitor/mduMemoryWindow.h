@@ -2,7 +2,7 @@
 
 #include <string_view>
 
-#include "kernel/windowRefresh.h"
+#include "monitor/windowRefresh.h"
 
 namespace zelvs {
 

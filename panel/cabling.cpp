@@ -1,13 +1,14 @@
-// Cables, slave boards, jumpers and the noise button. The connector's Tag is the whole state of a cable.
+// Cables, slave boards and jumpers. The connector's Tag is the whole state of a cable.
 
 #include <array>
 #include <string>
 
-#include "kernel/state.h"
-#include "learning/frmKAIROZU.h"
-#include "learning/messages.h"
-#include "panel/frmHard.h"
-#include "panel/panelSetup.h"
+#include "bench/frmHard.h"
+#include "dialogs/messages.h"
+#include "panel/frmKAIROZU.h"
+#include "panel/panel.h"
+#include "panel/panelParts.h"
+#include "state/state.h"
 
 namespace zelvs {
 
@@ -15,12 +16,6 @@ namespace {
 
 constexpr std::string_view kPlugged = "1";
 constexpr std::string_view kPulled = "0";
-
-// Images of ilsCable.
-constexpr int kUpperPulled = 1;
-constexpr int kUpperPlugged = 2;
-constexpr int kLowerPulled = 3;
-constexpr int kLowerPlugged = 4;
 
 constexpr double kTopAtPort0 = 24;
 constexpr double kTopAtPort1 = 62;
@@ -40,8 +35,8 @@ void showTerminator(int index, bool visible) {
 }
 
 void setTermination() {
-  showTerminator(0, frmHard->picBOARD1_RXD(0).Tag == kPlugged);
-  showTerminator(1, frmHard->picBOARD1_RXD(1).Tag == kPlugged);
+  showTerminator(0, isOn(frmHard->picBOARD1_RXD(0)));
+  showTerminator(1, isOn(frmHard->picBOARD1_RXD(1)));
   // A connector that nobody has touched is walked past as if plugged: only "0" ends the line.
   int connected = 0;
   for (const int holder : kHolder) {
@@ -55,12 +50,12 @@ void setTermination() {
 
 void afterCableChange() {
   setTermination();
-  frmHard->chkSADup();
+  chkSADup();
 }
 
 void picBOARD1_RXD_DblClick(int port) {
   PictureBox& here = frmHard->picBOARD1_RXD(port);
-  const bool plug = !(here.Tag == kPlugged);
+  const bool plug = !isOn(here);
   showCable(0, plug);
   if (plug) {
     // A cable that sits in the other port moves across, and the link stays up.
@@ -77,7 +72,7 @@ void picBOARD1_RXD_DblClick(int port) {
 /// Cable 0, worked from the board's side.
 void turnFirstCable() {
   PictureBox& holder = frmHard->picBOARD2_RXD(0);
-  const bool plug = !(holder.Tag == kPlugged);
+  const bool plug = !isOn(holder);
   showCable(0, plug);
   if (plug) {
     // No port stands at 30, so port 1 is marked whatever the cable is drawn at. Only its terminator shows it.
@@ -92,7 +87,7 @@ void turnFirstCable() {
 
 void turnCable(int cable) {
   PictureBox& holder = frmHard->picBOARD2_RXD(kHolder[static_cast<std::size_t>(cable)]);
-  const bool plug = !(holder.Tag == kPlugged);
+  const bool plug = !isOn(holder);
   showCable(cable, plug);
   holder.Tag = plug ? kPlugged : kPulled;
 }
@@ -127,14 +122,14 @@ void showSlave(int pair, bool present) {
 void picFConn_DblClick(int connector) {
   // The connectors on the slaves themselves plug nothing.
   if (connector == 0 || connector == 2) showSlave(connector / 2, true);
-  frmHard->setFormWidth();
+  setFormWidth();
   // For board 3's connector this names board 5, and it stays so.
   changeKAIROZU(2 * connector + 1);
 }
 
 void picBridge_DblClick(int pair) {
   showSlave(pair, false);
-  frmHard->setFormWidth();
+  setFormWidth();
   if (frmKAIROZU.visible()) frmKAIROZU->hide();
 }
 
@@ -149,6 +144,7 @@ void showTransfer(bool full) {
 }
 
 void picJumper_DblClick(int /*index*/) {
+  // Asks for true itself, where the registers ask for anything but false.
   if (continuousScanActive == kTrue || oneShotScanActive == kTrue) {
     showMessage("スキャン中の変更は禁止です。");
     return;
@@ -167,27 +163,9 @@ void picJumper_DblClick(int /*index*/) {
     changeKAIROZU(board);
 }
 
-void picNoise_MouseDown() {
-  constexpr std::int16_t kHoldOffSteps = 500;
-  noiseHeld = kTrue;
-  noiseHoldOff = kHoldOffSteps;
-  frmHard->picNoise.Picture = frmHard->ilsNOISE.image(2);
-}
-
-void picNoise_MouseUp() {
-  noiseHeld = kFalse;
-  frmHard->picNoise.Picture = frmHard->ilsNOISE.image(1);
-}
-
 }  // namespace
 
 void attachCabling(FrmHard& panel) {
-  for (PictureBox& end : panel.picCableUp)
-    end.Picture = panel.ilsCable.image(kUpperPulled);
-  for (PictureBox& end : panel.picCableDn)
-    end.Picture = panel.ilsCable.image(kLowerPulled);
-  panel.picNoise.Picture = panel.ilsNOISE.image(1);
-
   panel.picBOARD1_RXD.on(&Control::onDblClick, picBOARD1_RXD_DblClick);
   panel.picBOARD2_RXD.on(&Control::onDblClick, picBOARD2_RXD_DblClick);
   panel.picCableUp.on(&Control::onClick, picCableUp_Click);
@@ -195,15 +173,13 @@ void attachCabling(FrmHard& panel) {
   panel.picFConn.on(&Control::onDblClick, picFConn_DblClick);
   panel.picBridge.on(&Control::onDblClick, picBridge_DblClick);
   panel.picJumper.on(&Control::onDblClick, picJumper_DblClick);
-  panel.picNoise.onMouseDown = picNoise_MouseDown;
-  panel.picNoise.onMouseUp = picNoise_MouseUp;
 }
 
 void applyDefaults() {
   if (cableConnection == 1) {
-    if (!(frmHard->picBOARD1_RXD(0).Tag == kPlugged)) picBOARD1_RXD_DblClick(0);
+    if (!isOn(frmHard->picBOARD1_RXD(0))) picBOARD1_RXD_DblClick(0);
     for (const int connector : {1, 3}) {
-      if (!(frmHard->picBOARD2_RXD(connector).Tag == kPlugged)) picBOARD2_RXD_DblClick(connector);
+      if (!isOn(frmHard->picBOARD2_RXD(connector))) picBOARD2_RXD_DblClick(connector);
     }
   }
   if (cascadeSetting[1] == 1) picFConn_DblClick(0);

@@ -2,18 +2,13 @@
 
 #include <string>
 
-#include "panel/frmHard.h"
-#include "panel/panelSetup.h"
-#include "shell/frmMDI.h"
+#include "bench/frmHard.h"
+#include "bench/ilsMouse.h"
+#include "panel/panelParts.h"
 
 namespace zelvs {
 
 namespace {
-
-void setPointer(Control& control, int image) {
-  control.MousePointer = kCustomPointer;
-  control.MouseIcon = frmMDI->ilsMouse.image(image);
-}
 
 template <class T>
 void setPointers(ControlArray<T>& controls, int image) {
@@ -23,9 +18,13 @@ void setPointers(ControlArray<T>& controls, int image) {
 
 }  // namespace
 
+void initIntPicture() {
+  frmHard->picInt.Picture = frmHard->ilsInt.image(1);
+}
+
 void initMousePointers() {
-  constexpr int kDoubleClick = 2;
-  constexpr int kPress = 1;
+  constexpr int kDoubleClick = kDoubleClickPointer;
+  constexpr int kPress = kClickPointer;
   FrmHard& panel = *frmHard;
   setPointer(panel.picCPU, kDoubleClick);
   setPointer(panel.picIOS, kDoubleClick);

@@ -6,10 +6,11 @@
 #include <string_view>
 #include <vector>
 
-#include "kernel/state.h"
-#include "panel/settingLists.h"
+#include "bench/settingKeys.h"
+#include "bench/settingLists.h"
 #include "shell/iniFile.h"
 #include "shell/restart.h"
+#include "state/state.h"
 #include "ui/desk.h"
 #include "ui/platform.h"
 
@@ -27,26 +28,16 @@ struct Field {
 std::array<Field, 20> fields() {
   FrmDefault& form = *frmDefault;
   return {{
-      {"CABLECONNECTION", form.chkDef(0)},
-      {"MEMORYCLEAR", form.chkDef(1)},
-      {"TRANSFER", form.optHF(1)},
-      {"CPUTYPE", form.cmbCPUType},
-      {"SA-QVT40-1", form.cmbSA(0)},
-      {"SA-QVT40-3", form.cmbSA(2)},
-      {"SA-QVT50", form.cmbSA(4)},
-      {"CLOCK-QVT60", form.cmbClock(0)},
-      {"CLOCK-QVT40-1", form.cmbClock(1)},
-      {"CLOCK-QVT40-3", form.cmbClock(3)},
-      {"CLOCK-QVT50", form.cmbClock(5)},
-      {"CASCADE-QVT40-12", form.chkCascade(0)},
-      {"CASCADE-QVT40-34", form.chkCascade(1)},
-      {"IOS-QVT50", form.cmbIOS},
-      {"MODE-QVT50", form.cmbMode},
-      {"OPENWINDOW1", form.chkDef(2)},
-      {"OPENWINDOW2", form.chkDef(3)},
-      {"OPENWINDOW3", form.chkDef(4)},
-      {"OPENWINDOW4", form.chkDef(5)},
-      {"OPENWINDOW5", form.chkDef(6)},
+      {kCablesKey, form.chkDef(0)},          {kMemoryClearKey, form.chkDef(1)},
+      {kTransferKey, form.optHF(1)},         {kCpuTypeKey, form.cmbCPUType},
+      {kAddressKeys[0], form.cmbSA(0)},      {kAddressKeys[1], form.cmbSA(2)},
+      {kAddressKeys[2], form.cmbSA(4)},      {kClockKeys[0], form.cmbClock(0)},
+      {kClockKeys[1], form.cmbClock(1)},     {kClockKeys[2], form.cmbClock(3)},
+      {kClockKeys[3], form.cmbClock(5)},     {kCascadeKeys[0], form.chkCascade(0)},
+      {kCascadeKeys[1], form.chkCascade(1)}, {kIoModeKey, form.cmbIOS},
+      {kCounterModeKey, form.cmbMode},       {kOpenWindowKeys[0], form.chkDef(2)},
+      {kOpenWindowKeys[1], form.chkDef(3)},  {kOpenWindowKeys[2], form.chkDef(4)},
+      {kOpenWindowKeys[3], form.chkDef(5)},  {kOpenWindowKeys[4], form.chkDef(6)},
   }};
 }
 
@@ -107,7 +98,7 @@ FrmDefault::FrmDefault() : Form("frmDefault", kKind, Border::Fixed) {
   hideOnCloseBox();
   setTopmost();  // from the start, so that no window has to be made a second time
   Width = kWidth * kTwipsPerPixel;
-  Height = kInside * kTwipsPerPixel + platform().captionHeight();
+  Height = kInside * kTwipsPerPixel + kCaptionHeight;
 
   Control* const windows = &Frame1(1);
   Control* const bench = &Frame1(0);

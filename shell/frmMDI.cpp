@@ -1,16 +1,18 @@
 #include "shell/frmMDI.h"
 
-#include "kernel/beep.h"
-#include "kernel/simulation.h"
-#include "kernel/state.h"
-#include "kernel/tick.h"
-#include "learning/frmHint.h"
-#include "learning/frmNaviList.h"
-#include "learning/frmNavigation.h"
+#include "bench/ilsMouse.h"
+#include "dialogs/beep.h"
+#include "lessons/frmNaviList.h"
+#include "lessons/frmNavigation.h"
+#include "link/simulation.h"
 #include "monitor/frmDumpSel.h"
+#include "monitor/frmHint.h"
 #include "monitor/frmRegister.h"
+#include "monitor/windowRefresh.h"
 #include "shell/frmDefault.h"
 #include "shell/frmVersion.h"
+#include "shell/tick.h"
+#include "state/state.h"
 #include "ui/desk.h"
 #include "ui/platform.h"
 
@@ -21,6 +23,8 @@ namespace {
 constexpr double kToolBoxHeight = 225;
 constexpr Colour kVersionGround = 0xF6FFE9;
 constexpr Colour kPink = 0xC0C0FF;
+constexpr Colour kModeSelected = 0xC0E0FF;
+constexpr Colour kModeFree = 0xC0FFFF;
 
 /// One label of the tool bar, from left to right; widths and gaps in pixels.
 struct ToolBarRow {
@@ -102,16 +106,16 @@ FrmMDI::FrmMDI() : Form("frmMDI", kKind, Border::Sizable) {
   ToolBox.move(0, 0, Width, kToolBoxHeight);
   const ToolBarRow rows[] = {
       {lblSimulationTick, "Simurator Mode", 153, kModeFree, 0},
-      {lblRunMode(0), kRunModes[0].caption, 48, kModeSelected, 1},
-      {lblRunMode(1), kRunModes[1].caption, 48, kModeFree, 1},
-      {lblRunMode(2), kRunModes[2].caption, 48, kModeFree, 1},
-      {lblRunMode(3), kRunModes[3].caption, 48, kModeFree, 1},
-      {lblMemoryWindow, "Memory Window", 100, kModeFree, 1},
-      {lblRegisterWindow, "Register Window", 112, kModeFree, 1},
-      {lblRegisterHint, "Register Hint", 100, kModeFree, 1},
-      {lblVersion, "Version", 64, kVersionGround, 1},
-      {lblDefault, "Simurator Default Set", 148, kModeFree, 1},
-      {lblNagigator, "Navigator", 80, kPink, 2},
+      {lblRunMode(0), kRunModes[0].caption, 48, kModeSelected, kClickPointer},
+      {lblRunMode(1), kRunModes[1].caption, 48, kModeFree, kClickPointer},
+      {lblRunMode(2), kRunModes[2].caption, 48, kModeFree, kClickPointer},
+      {lblRunMode(3), kRunModes[3].caption, 48, kModeFree, kClickPointer},
+      {lblMemoryWindow, "Memory Window", 100, kModeFree, kClickPointer},
+      {lblRegisterWindow, "Register Window", 112, kModeFree, kClickPointer},
+      {lblRegisterHint, "Register Hint", 100, kModeFree, kClickPointer},
+      {lblVersion, "Version", 64, kVersionGround, kClickPointer},
+      {lblDefault, "Simurator Default Set", 148, kModeFree, kClickPointer},
+      {lblNagigator, "Navigator", 80, kPink, kDoubleClickPointer},
   };
   constexpr double kGap = 2;
   double left = 0;
@@ -123,10 +127,7 @@ FrmMDI::FrmMDI() : Form("frmMDI", kKind, Border::Sizable) {
     row.label.Transparent = false;
     row.label.BackColor = row.ground;
     row.label.move(left, 0, row.width, kToolBoxHeight / kTwipsPerPixel);
-    if (row.pointer != 0) {
-      row.label.MousePointer = kCustomPointer;
-      row.label.MouseIcon = ilsMouse.image(row.pointer);
-    }
+    if (row.pointer != 0) setPointer(row.label, row.pointer);
     left += row.width + kGap;
   }
   shpTick.placeIn(ToolBox);

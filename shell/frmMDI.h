@@ -12,8 +12,6 @@ class FrmMDI final : public Form {
   static constexpr FormKind kKind = FormKind::Frame;
   FrmMDI();
 
-  ImageList ilsMouse{"ilsMouse", 2};  // pointer over a control that acts on a click, on a double click
-
   PictureBox ToolBox{this, "ToolBox"};  // scale: pixels
   Label lblSimulationTick{this, "lblSimulationTick"};
   ControlArray<Label> lblRunMode{this, "lblRunMode", 0, 3};  // index: RunMode

@@ -3,8 +3,8 @@
 #include <array>
 #include <string_view>
 
-#include "kernel/state.h"
-#include "shell/frmMDI.h"
+#include "bench/ilsMouse.h"
+#include "state/state.h"
 #include "ui/platform.h"
 
 namespace zelvs {
@@ -89,7 +89,7 @@ FrmVersion::FrmVersion() : Form("frmVersion", kKind, Border::None) {
   for (PictureBox& pointer : Picture1) {
     pointer.Transparent = true;
     pointer.move(pointer.index() == 0 ? 720 : 4200, 2655, 480, 480);
-    pointer.Picture = frmMDI->ilsMouse.image(pointer.index() + 1);
+    pointer.Picture = ilsMouse.image(pointer.index() + 1);
   }
 
   picProgress.move(600, 5460, kFormWidth - 1200, 420);

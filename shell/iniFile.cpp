@@ -9,8 +9,9 @@
 #include <filesystem>
 #include <optional>
 
-#include "kernel/state.h"
-#include "ui/textFile.h"
+#include "bench/settingKeys.h"
+#include "state/state.h"
+#include "text/textFile.h"
 
 namespace zelvs {
 
@@ -232,26 +233,26 @@ void writeIniValue(std::string_view section, std::string_view key, std::string_v
 
 std::span<const Setting> settings() {
   static const std::array<Setting, 20> table = {{
-      {"CABLECONNECTION", &cableConnection, 1},
-      {"MEMORYCLEAR", &memoryClear, 1},
-      {"CPUTYPE", &cpuType, 0},
-      {"TRANSFER", &transferSetting[0], 0},
-      {"SA-QVT40-1", &saSetting[0], 0},
-      {"SA-QVT40-3", &saSetting[1], 2},
-      {"SA-QVT50", &saSetting[2], 4},
-      {"CLOCK-QVT60", &clockSetting[0], 0},
-      {"CLOCK-QVT40-1", &clockSetting[1], 0},
-      {"CLOCK-QVT40-3", &clockSetting[2], 0},
-      {"CLOCK-QVT50", &clockSetting[3], 0},
-      {"CASCADE-QVT40-12", &cascadeSetting[1], 1},
-      {"CASCADE-QVT40-34", &cascadeSetting[2], 1},
-      {"IOS-QVT50", &ioBoardMode, 5},
-      {"MODE-QVT50", &ioBoardCounterMode, 0},
-      {"OPENWINDOW1", &openWindow[1], 1},
-      {"OPENWINDOW2", &openWindow[2], 1},
-      {"OPENWINDOW3", &openWindow[3], 1},
-      {"OPENWINDOW4", &openWindow[4], 0},
-      {"OPENWINDOW5", &openWindow[5], 0},
+      {kCablesKey, &cableConnection, 1},
+      {kMemoryClearKey, &memoryClear, 1},
+      {kCpuTypeKey, &cpuType, 0},
+      {kTransferKey, &transferSetting[0], 0},
+      {kAddressKeys[0], &saSetting[0], 0},
+      {kAddressKeys[1], &saSetting[1], 2},
+      {kAddressKeys[2], &saSetting[2], 4},
+      {kClockKeys[0], &clockSetting[0], 0},
+      {kClockKeys[1], &clockSetting[1], 0},
+      {kClockKeys[2], &clockSetting[2], 0},
+      {kClockKeys[3], &clockSetting[3], 0},
+      {kCascadeKeys[0], &cascadeSetting[1], 1},
+      {kCascadeKeys[1], &cascadeSetting[2], 1},
+      {kIoModeKey, &ioBoardMode, 5},
+      {kCounterModeKey, &ioBoardCounterMode, 0},
+      {kOpenWindowKeys[0], &openWindow[1], 1},
+      {kOpenWindowKeys[1], &openWindow[2], 1},
+      {kOpenWindowKeys[2], &openWindow[3], 1},
+      {kOpenWindowKeys[3], &openWindow[4], 0},
+      {kOpenWindowKeys[4], &openWindow[5], 0},
   }};
   return table;
 }

@@ -2,20 +2,20 @@
 
 #include <initializer_list>
 
-#include "kernel/beep.h"
-#include "kernel/resets.h"
-#include "kernel/startUp.h"
-#include "kernel/state.h"
-#include "learning/frmHint.h"
-#include "learning/frmKAIROZU.h"
+#include "bench/frmHard.h"
+#include "dialogs/beep.h"
 #include "monitor/frmDumpC17.h"
 #include "monitor/frmDumpCDIO.h"
 #include "monitor/frmDumpDRC.h"
+#include "monitor/frmHint.h"
 #include "monitor/frmRegister.h"
 #include "monitor/mduMemoryWindow.h"
-#include "panel/frmHard.h"
+#include "panel/frmKAIROZU.h"
+#include "panel/resets.h"
 #include "shell/frmDefault.h"
 #include "shell/frmMDI.h"
+#include "shell/startUp.h"
+#include "state/state.h"
 #include "ui/desk.h"
 
 namespace zelvs {

@@ -9,10 +9,10 @@
 #include <fstream>
 #include <string>
 
+#include "text/textFile.h"
 #include "tools/hintSheet.h"
 #include "tools/littleEndian.h"
 #include "tools/schematics/boards.h"
-#include "ui/textFile.h"
 
 namespace {
 

@@ -14,9 +14,9 @@
 #include <optional>
 #include <string>
 
-#include "ui/codePage932.h"
-#include "ui/textFile.h"
-#include "ui/utf8.h"
+#include "text/codePage932.h"
+#include "text/textFile.h"
+#include "text/utf8.h"
 
 namespace {
 

@@ -19,6 +19,7 @@ using Colour = int;
 
 inline constexpr Colour kBlack = 0;
 inline constexpr Colour kRed = 255;
+inline constexpr Colour kYellow = 0x00FFFF;
 inline constexpr Colour kWhite = 0xFFFFFF;
 inline constexpr Colour kButtonFace = 0xF0F0F0;
 

@@ -2,11 +2,11 @@
 
 #include <algorithm>
 
+#include "text/utf8.h"
 #include "ui/form.h"
 #include "ui/platform.h"
 #include "ui/runTimeError.h"
 #include "ui/textExtent.h"
-#include "ui/utf8.h"
 
 namespace zelvs {
 

@@ -75,7 +75,7 @@ void Form::moveToCorner(double fromRight, double fromBottom) {
 }
 
 double Form::clientHeight() const {
-  return Height - (border_ == Border::None ? 0 : platform().captionHeight());
+  return Height - (border_ == Border::None ? 0 : kCaptionHeight);
 }
 
 double Form::insideLeft() const {
@@ -85,7 +85,7 @@ double Form::insideLeft() const {
 
 double Form::insideTop() const {
   const Form* frame = kind_ == FormKind::Child ? desk().frame() : nullptr;
-  const double above = frame != nullptr ? frame->insideTop() + (floating_ ? -kClientEdge : frame->barHeight()) : 0;
+  const double above = frame == nullptr ? 0 : floating_ ? frame->insideTop() - kClientEdge : frame->clientAreaTop();
   return above + Top + (Height - clientHeight());
 }
 

@@ -13,6 +13,9 @@ namespace zelvs {
 /// Frame: the one window that holds the children. Child: inside the frame's client area. Window: stands by itself.
 enum class FormKind { Frame, Child, Window };
 enum class Border { None, Fixed, Sizable };
+/// Height of a caption bar in twips. A desktop draws its own windows' bars as it likes: there the inside is what
+/// counts.
+inline constexpr double kCaptionHeight = 300;
 /// What stands between the frame and its client area, in twips: a child counts from behind it, a floating one from
 /// before.
 inline constexpr double kClientEdge = 30;
@@ -30,7 +33,7 @@ class Form : public PropertyOwner {
   Property<std::string> Tag{this};
   Property<std::string> Caption{this};
   /// Outer place in twips: a child's on the frame's client area, any other's on the screen. The caption bar counts in
-  /// Height (Platform::captionHeight), side borders count as nothing.
+  /// Height (kCaptionHeight), side borders count as nothing.
   Property<double> Left{this};
   Property<double> Top{this};
   Property<double> Width{this, 6000};
@@ -81,6 +84,8 @@ class Form : public PropertyOwner {
   double insideTop() const;
   /// What a frame keeps for its tool bar above the children's area, in twips.
   virtual double barHeight() const { return 0; }
+  /// Top of a frame's client area on the screen, in twips.
+  double clientAreaTop() const { return insideTop() + barHeight(); }
   virtual bool hasCloseBox() const { return border_ != Border::None; }
 
   /// All controls, in the order of their making.
@@ -179,6 +184,9 @@ class FormRef final : public FormPlace {
  public:
   explicit FormRef(std::string_view name) : FormPlace(name, T::kKind) {}
 
+  /// Called with each new form before it loads: what works a form from above its folder attaches itself here.
+  void whenMade(void (*made)(T& form)) { whenMade_ = made; }
+
   T* operator->() { return get(); }
   T& operator*() { return *get(); }
   T* get() {
@@ -188,7 +196,13 @@ class FormRef final : public FormPlace {
   }
 
  private:
-  std::unique_ptr<Form> make() const override { return std::make_unique<T>(); }
+  std::unique_ptr<Form> make() const override {
+    auto form = std::make_unique<T>();
+    if (whenMade_ != nullptr) whenMade_(*form);
+    return form;
+  }
+
+  void (*whenMade_)(T& form) = nullptr;
 };
 
 }  // namespace zelvs

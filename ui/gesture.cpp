@@ -2,10 +2,10 @@
 
 #include <algorithm>
 
+#include "text/utf8.h"
 #include "ui/desk.h"
 #include "ui/form.h"
 #include "ui/textExtent.h"
-#include "ui/utf8.h"
 
 namespace zelvs::gesture {
 

@@ -40,8 +40,6 @@ class Platform {
                           MessageButtons buttons) = 0;
 
   virtual Screen screen() = 0;
-  /// Height of a window's caption bar in twips.
-  virtual double captionHeight() = 0;
   /// The pointer's place on the screen.
   virtual Point pointer() = 0;
 

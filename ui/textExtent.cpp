@@ -3,8 +3,8 @@
 #include <algorithm>
 #include <cmath>
 
+#include "text/utf8.h"
 #include "ui/control.h"
-#include "ui/utf8.h"
 
 namespace zelvs {
 

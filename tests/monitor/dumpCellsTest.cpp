@@ -1,9 +1,10 @@
 // Which byte stands in which cell, what the cells say, and how they turn red and fade.
 
-#include "kernel/cellAddress.h"
-#include "kernel/resets.h"
-#include "kernel/tick.h"
-#include "monitor/dumpFixture.h"
+#include "bench/ilsMouse.h"
+#include "panel/resets.h"
+#include "shell/tick.h"
+#include "state/cellAddress.h"
+#include "support/dumpFixture.h"
 
 namespace zelvs {
 namespace {
@@ -53,8 +54,8 @@ TEST_F(DumpCellsTest, AFreshWindowShowsZerosInBlackAndEmptyReadOuts) {
     EXPECT_EQ(cell.Caption.get(), "00");
     EXPECT_EQ(cell.ForeColor, kBlack);
     EXPECT_EQ(cell.MousePointer, kCustomPointer);
-    EXPECT_TRUE(cell.MouseIcon == frmMDI->ilsMouse.image(2));
-    EXPECT_TRUE(frmDumpC17->lblASC(cell.index()).MouseIcon == frmMDI->ilsMouse.image(2));
+    EXPECT_TRUE(cell.MouseIcon == ilsMouse.image(2));
+    EXPECT_TRUE(frmDumpC17->lblASC(cell.index()).MouseIcon == ilsMouse.image(2));
     EXPECT_EQ(frmDumpC17->lblASC(cell.index()).Caption.get(), ".");
   }
   EXPECT_EQ(frmDumpC17->lblTitle.Caption.get(), "adr.");

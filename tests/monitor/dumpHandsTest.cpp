@@ -2,11 +2,11 @@
 
 #include "chip/frmEditMemory.h"
 #include "chip/frmMemoryRead.h"
-#include "learning/messages.h"
-#include "monitor/dumpFixture.h"
+#include "dialogs/messages.h"
 #include "monitor/frmRegister.h"
 #include "monitor/mduAPI.h"
 #include "shell/frmVersion.h"
+#include "support/dumpFixture.h"
 
 namespace zelvs {
 namespace {

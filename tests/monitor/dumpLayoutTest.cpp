@@ -1,6 +1,6 @@
 // Headings, wedges and layouts by CPU type.
 
-#include "monitor/dumpFixture.h"
+#include "support/dumpFixture.h"
 
 namespace zelvs {
 namespace {

@@ -1,7 +1,8 @@
 // The register window: its rows, and what opens from them.
 
-#include "chip/dialogFixture.h"
-#include "kernel/windowRefresh.h"
+#include "bench/ilsMouse.h"
+#include "monitor/windowRefresh.h"
+#include "support/dialogFixture.h"
 
 namespace zelvs {
 namespace {
@@ -100,7 +101,7 @@ TEST_F(RegisterWindowTest, OnlyTheEightRowsAreShownAndRefreshed) {
   for (int row = 1; row <= 8; ++row) {
     for (int which = 0; which < 4; ++which) {
       EXPECT_EQ(cell(row, which).MousePointer, kCustomPointer);
-      EXPECT_EQ(cell(row, which).MouseIcon.get(), frmMDI->ilsMouse.image(2));
+      EXPECT_EQ(cell(row, which).MouseIcon.get(), ilsMouse.image(2));
     }
   }
 }

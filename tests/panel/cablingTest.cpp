@@ -1,6 +1,6 @@
 // Cables, slaves, jumpers and the noise button.
 
-#include "panel/panelFixture.h"
+#include "support/panelFixture.h"
 
 namespace zelvs {
 namespace {

@@ -1,6 +1,7 @@
 // The settings that are made with a list.
 
-#include "panel/panelFixture.h"
+#include "panel/panel.h"
+#include "support/panelFixture.h"
 #include "ui/desk.h"
 
 namespace zelvs {
@@ -228,7 +229,7 @@ TEST_P(DuplicateTest, TheFirstPairOnTheLineIsTold) {
   }
   for (int i = 0; i < 2; ++i)
     frmHard->picBridge(i).Visible = row.bridges[i];
-  frmHard->chkSADup();
+  chkSADup();
   if (row.first == 0) {
     EXPECT_TRUE(asked.empty());
     return;
@@ -239,7 +240,7 @@ TEST_P(DuplicateTest, TheFirstPairOnTheLineIsTold) {
   EXPECT_EQ(box.message, "ボード" + std::to_string(row.first) + "と、ボード" + std::to_string(row.second) +
                              "のＳＡが重複しています｡正常な通信が行えません｡ ");
   startupDone = kFalse;
-  frmHard->chkSADup();
+  chkSADup();
   EXPECT_TRUE(asked.empty()) << "not while the program loads";
 }
 
@@ -421,7 +422,7 @@ TEST_F(PanelTest, StoredSettingsMoveTheLists) {
 TEST_F(PanelTest, EqualAddressesInTheFileDoNotWarnWhileLoading) {
   start({{"SA-QVT40-3", "0"}});
   EXPECT_TRUE(asked.empty());
-  frmHard->chkSADup();
+  chkSADup();
   EXPECT_EQ(asked.size(), 1u);
 }
 

@@ -1,6 +1,7 @@
 // What the panel is when it has loaded: boards, shadows, first pictures, tips and pointers.
 
-#include "panel/panelFixture.h"
+#include "bench/ilsMouse.h"
+#include "support/panelFixture.h"
 
 namespace zelvs {
 namespace {
@@ -71,7 +72,7 @@ TEST_F(PanelLoadTest, PictureListsHaveTheirImages) {
       {&frmHard->ilsTriangle, 9}, {&frmHard->ilsCount, 4}, {&frmHard->ilsInt, 4},   {&frmHard->ilsJumper, 2},
       {&frmHard->ilsNOISE, 2},    {&frmHard->ilsRESET, 2}, {&frmHard->ilsCable, 4}, {&frmHard->ilsLED_R, 2},
       {&frmHard->ilsLED_G, 2},    {&frmHard->ilsRSW, 16},  {&frmHard->ilsDIP1, 4},  {&frmHard->ilsDIP3, 8},
-      {&frmHard->ilsMotor, 11},   {&frmMDI->ilsMouse, 2}};
+      {&frmHard->ilsMotor, 11},   {&ilsMouse, 2}};
   for (const auto& [list, count] : lists)
     EXPECT_EQ(list->count(), count) << list->name();
 }

@@ -2,8 +2,9 @@
 
 #include <algorithm>
 
-#include "panel/panelFixture.h"
-#include "panel/pinModes.h"
+#include "bench/pinModes.h"
+#include "panel/panel.h"
+#include "support/panelFixture.h"
 
 namespace zelvs {
 namespace {

@@ -8,8 +8,8 @@
 #include <QMdiSubWindow>
 #include <QMouseEvent>
 
+#include "bench/frmHard.h"
 #include "monitor/frmDumpDRC.h"
-#include "panel/frmHard.h"
 #include "qt/support/desktop.h"
 #include "shell/frmMDI.h"
 

@@ -8,10 +8,10 @@
 #include <QTimer>
 #include <vector>
 
-#include "learning/frmDialog.h"
-#include "learning/frmNaviList.h"
-#include "learning/frmNavigation.h"
-#include "learning/messages.h"
+#include "dialogs/frmDialog.h"
+#include "dialogs/messages.h"
+#include "lessons/frmNaviList.h"
+#include "lessons/frmNavigation.h"
 #include "qt/support/desktop.h"
 #include "shell/frmDefault.h"
 #include "shell/frmMDI.h"

@@ -7,8 +7,8 @@
 #include <QPushButton>
 #include <QTimer>
 
-#include "learning/frmNaviList.h"
-#include "learning/frmNavigation.h"
+#include "lessons/frmNaviList.h"
+#include "lessons/frmNavigation.h"
 #include "qt/support/desktop.h"
 #include "shell/frmMDI.h"
 #include "ui/gesture.h"

@@ -4,8 +4,8 @@
 
 #include <QApplication>
 
-#include "learning/frmNaviList.h"
-#include "learning/frmNavigation.h"
+#include "lessons/frmNaviList.h"
+#include "lessons/frmNavigation.h"
 #include "qt/support/desktop.h"
 
 namespace zelvs {

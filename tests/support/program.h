@@ -7,9 +7,9 @@
 #include <map>
 #include <string>
 
-#include "kernel/startUp.h"
-#include "kernel/state.h"
-#include "panel/frmHard.h"
+#include "bench/frmHard.h"
+#include "shell/startUp.h"
+#include "state/state.h"
 #include "ui/desk.h"
 #include "ui/headless/scriptedPlatform.h"
 #include "ui/platform.h"

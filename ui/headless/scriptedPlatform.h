@@ -46,11 +46,10 @@ class ScriptedPlatform : public Platform {
   int beeps_ = 0;
 };
 
-/// No display at all: 1920 by 1080 pixels, a caption bar of 300 twips.
+/// No display at all: 1920 by 1080 pixels.
 class HeadlessPlatform : public ScriptedPlatform {
  public:
   Screen screen() override { return {1920, 1080}; }
-  double captionHeight() override { return 300; }
 };
 
 /// True when the file starts as a RIFF wave file does.

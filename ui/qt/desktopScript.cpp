@@ -27,8 +27,6 @@ class WindowedScriptPlatform final : public ScriptedPlatform {
   explicit WindowedScriptPlatform(Windows& windows) : windows_(windows) {}
 
   Screen screen() override { return screenOfQt(); }
-  // The model's own, so that a script reads the same places with and without windows.
-  double captionHeight() override { return 300; }
 
   void formLoaded(Form& form) override { windows_.formLoaded(form); }
   void formShown(Form& form) override { windows_.formShown(form); }
@@ -208,7 +206,7 @@ class WindowedHands final : public Hands {
   static QPixmap withCaption(const Form& form, QWidget& window) {
     const QPixmap inside = window.grab();
     if (form.border() == Border::None || QGuiApplication::platformName() != "offscreen") return inside;
-    const int bar = qRound(platform().captionHeight() / kTwipsPerPixel);
+    const int bar = qRound(kCaptionHeight / kTwipsPerPixel);
     QPixmap whole(inside.width(), inside.height() + qRound(bar * inside.devicePixelRatio()));
     whole.setDevicePixelRatio(inside.devicePixelRatio());
     whole.fill(QApplication::palette().color(QPalette::Highlight));

@@ -14,12 +14,12 @@
 #include <algorithm>
 #include <cstdlib>
 
+#include "text/utf8.h"
 #include "ui/controls.h"
 #include "ui/desk.h"
 #include "ui/gesture.h"
 #include "ui/qt/drawing.h"
 #include "ui/qt/keys.h"
-#include "ui/utf8.h"
 
 namespace zelvs {
 

@@ -75,16 +75,8 @@ Screen screenOfQt() {
   return {size.width(), size.height()};
 }
 
-double captionHeightOfQt() {
-  return QApplication::style()->pixelMetric(QStyle::PM_TitleBarHeight) * kTwipsPerPixel;
-}
-
 Screen QtPlatform::screen() {
   return screenOfQt();
-}
-
-double QtPlatform::captionHeight() {
-  return captionHeightOfQt();
 }
 
 Point QtPlatform::pointer() {

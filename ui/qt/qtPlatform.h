@@ -22,7 +22,6 @@ class QtPlatform final : public Platform {
   void runModal(Form& form) override;
   bool messageBox(const std::string& title, const std::string& text, MessageIcon icon, MessageButtons buttons) override;
   Screen screen() override;
-  double captionHeight() override;
   Point pointer() override;
   void systemBeep() override;
   bool openSound(const std::string& path) override { return sound_.open(path); }
@@ -48,9 +47,8 @@ class QtPlatform final : public Platform {
   QHash<const Form*, QEventLoop*> modalLoops_;
 };
 
-/// Size of the first screen in logical pixels, and the caption bar's height in twips.
+/// Size of the first screen in logical pixels.
 Screen screenOfQt();
-double captionHeightOfQt();
 /// One look on every machine, so that a picture is the same on every run. Called once, before the first window.
 void setUpLook();
 

@@ -1,0 +1,27 @@
+#include "dialogs/beep.h"
+
+#include "bench/frmHard.h"
+#include "state/state.h"
+#include "ui/platform.h"
+
+namespace zelvs {
+
+void openBeepDevice() {
+  Sound& device = frmHard->mmcBeep;
+  device.DeviceType = "WaveAudio";
+  device.FileName = programFolder + "/BEEP.WAV";
+  if (device.command("Open")) beepDeviceOpen = kTrue;
+}
+
+void playBeep() {
+  if (beepDeviceOpen != kTrue) {
+    platform().systemBeep();
+    return;
+  }
+  frmHard->mmcBeep.command("Prev");
+  yieldToEvents();
+  frmHard->mmcBeep.command("Play");
+  yieldToEvents();
+}
+
+}  // namespace zelvs

@@ -1,0 +1,151 @@
+// zelvs-script as a program: its command line, its exit status, what it prints where.
+
+#include <fcntl.h>
+#include <sys/stat.h>
+#include <sys/wait.h>
+
+#include <cstdlib>
+#include <string>
+
+#include "support/program.h"
+
+namespace zelvs {
+namespace {
+
+struct Outcome {
+  int status = -1;
+  std::string output;
+  std::string errors;
+};
+
+class ScriptProgramTest : public testing::Test {
+ protected:
+  ScriptProgramTest() { folder.write("ZELVS.INI", makerIni()); }
+
+  /// Runs the program with these words behind its name and the commands as its input. It has ten seconds.
+  Outcome run(const std::string& words, const std::string& input = {}) {
+    work.write("input", input);
+    const std::string line = "timeout 10 '" ZELVS_SCRIPT "' " + words + " < '" + work.file("input") + "' > '" +
+                             work.file("output") + "' 2> '" + work.file("errors") + "'";
+    const int result = std::system(line.c_str());
+    return {WIFEXITED(result) ? WEXITSTATUS(result) : -1, work.read("output"), work.read("errors")};
+  }
+  std::string here() const { return "--folder '" + folder.path() + "' "; }
+
+  TemporaryFolder folder;
+  TemporaryFolder work;
+};
+
+TEST_F(ScriptProgramTest, TheStatusTellsHowItWent) {
+  struct Row {
+    const char* commands;
+    int status;
+    const char* output;
+  };
+  const Row table[] = {
+      {"", 0, ""},
+      {"expect runMode 0\n", 0, "ok\n"},
+      {"expect runMode 1\n", 1, "FAILED runMode: expected 1, is 0\n"},
+      {"jump\n", 1, "error: unknown command: jump\n"},
+      {"jump\nexpect error\n", 0, "error: unknown command: jump\nok\n"},
+      {"close frmMDI\nanswer ok\n", 0, ""},
+      {"close frmMDI\n", 0, ""},  // the commands end inside the message box
+      {"close frmMDI\nexpect runMode 1\n", 1, "FAILED runMode: expected 1, is 0\n"},
+      {"expect runMode 0\nset beltFrame 99\n", 0, "ok\n"},
+  };
+  for (const Row& row : table) {
+    SCOPED_TRACE(row.commands);
+    const Outcome outcome = run(here(), row.commands);
+    EXPECT_EQ(outcome.status, row.status);
+    EXPECT_EQ(outcome.output, row.output);
+    EXPECT_EQ(outcome.errors, "");
+  }
+}
+
+TEST_F(ScriptProgramTest, ARunTimeErrorEndsItWithStatusThree) {
+  folder.write("ZELVS.INI", makerIni({{"CPUTYPE", "4"}}));
+  const Outcome outcome = run(here(), "echo never\n");
+  EXPECT_EQ(outcome.status, 3);
+  EXPECT_TRUE(outcome.output.starts_with("fatal: " + folder.file("ZELVS.INI") + ": CPUTYPE=4 ")) << outcome.output;
+  EXPECT_EQ(std::count(outcome.output.begin(), outcome.output.end(), '\n'), 1);
+}
+
+TEST_F(ScriptProgramTest, AWrongCommandLineIsToldWithTheUsage) {
+  folder.write("script.zs", "expect runMode 0\n");
+  const std::string script = "'" + folder.file("script.zs") + "'";
+  const std::pair<std::string, std::string> table[] = {
+      {"--unknown", "unknown option: --unknown"},
+      {"-x", "unknown option: -x"},
+      {"--folder", "--folder needs a folder"},
+      {"--folder /nowhere/at/all", "no such folder: /nowhere/at/all"},
+      {"--folder " + script, "no such folder: " + folder.file("script.zs")},
+      {"--folder ''", "no such folder: "},
+      {here() + script + " " + script, "more than one file: " + folder.file("script.zs")},
+      {here() + "/nowhere/script.zs", "cannot read /nowhere/script.zs"},
+      {here() + "/tmp", "cannot read /tmp"},
+  };
+  for (const auto& [words, told] : table) {
+    SCOPED_TRACE(words);
+    const Outcome outcome = run(words, "echo never\n");
+    EXPECT_EQ(outcome.status, 2);
+    EXPECT_EQ(outcome.output, "");
+    EXPECT_EQ(outcome.errors,
+              "zelvs-script: " + told + "\nusage: zelvs-script [--desktop] [--folder DIR] [--prompt] [FILE]\n");
+  }
+}
+
+TEST_F(ScriptProgramTest, AnotherProgramMayWriteTheScriptIntoAPipe) {
+  ASSERT_EQ(mkfifo(work.file("pipe").c_str(), 0600), 0);
+  const std::string writer = "timeout 5 sh -c \"echo 'echo through the pipe' > '" + work.file("pipe") + "'\" &";
+  ASSERT_EQ(std::system(writer.c_str()), 0);
+  const Outcome outcome = run(here() + "'" + work.file("pipe") + "'");
+  EXPECT_EQ(outcome.status, 0);
+  EXPECT_EQ(outcome.output, "through the pipe\n");
+}
+
+TEST_F(ScriptProgramTest, TheCommandsComeFromAFileOrFromTheInput) {
+  folder.write("script.zs", "echo from the file");
+  EXPECT_EQ(run(here() + "'" + folder.file("script.zs") + "'", "echo from the input").output, "from the file\n");
+  EXPECT_EQ(run(here(), "echo from the input").output, "from the input\n");
+}
+
+TEST_F(ScriptProgramTest, OptionsMayStandInAnyOrder) {
+  folder.write("script.zs", "echo x\n");
+  const Outcome outcome = run("'" + folder.file("script.zs") + "' --prompt " + here());
+  EXPECT_EQ(outcome.status, 0);
+  EXPECT_EQ(outcome.output, ">\nx\n>\n");
+}
+
+TEST_F(ScriptProgramTest, ThePromptHoldsAConversation) {
+  // Each answer is there before the next command is given: nothing waits in a buffer.
+  work.write("talk.sh",
+             "set -e\n"
+             "mkfifo to from\n"
+             "timeout 10 \"$1\" --folder \"$2\" --prompt < to > from &\n"
+             "exec 3> to 4< from\n"
+             "read -r prompt <&4; echo 'get runMode' >&3\n"
+             "read -r answer <&4; echo \"$prompt $answer\"\n"
+             "read -r prompt <&4; echo 'now' >&3\n"
+             "read -r answer <&4; echo \"$prompt $answer\"\n"
+             "exec 3>&-\n"
+             "wait $!\n");
+  const std::string line = "cd '" + work.path() + "' && sh talk.sh '" ZELVS_SCRIPT "' '" + folder.path() + "' > said";
+  EXPECT_EQ(std::system(line.c_str()), 0);
+  EXPECT_EQ(work.read("said"), "> runMode = 0\n> now = 0\n");
+}
+
+TEST_F(ScriptProgramTest, WithoutAFolderTheProgramsOwnFolderIsTaken) {
+  const std::string own = std::filesystem::path(ZELVS_SCRIPT).parent_path().string();
+  EXPECT_EQ(run("", "get iniFilePath\n").output, "iniFilePath = \"" + own + "/ZELVS.INI\"\n");
+}
+
+TEST_F(ScriptProgramTest, AnEmptyFolderIsEnoughToStart) {
+  TemporaryFolder bare;
+  const Outcome outcome = run("--folder '" + bare.path() + "'", "expect startupDone -1\nexpect beepDeviceOpen 0\n");
+  EXPECT_EQ(outcome.status, 0);
+  EXPECT_EQ(outcome.output, "ok\nok\n");
+  EXPECT_TRUE(std::filesystem::is_empty(bare.path())) << "the start writes nothing";
+}
+
+}  // namespace
+}  // namespace zelvs
