@@ -200,10 +200,9 @@ std::string memoryRange(const std::string& address, std::int64_t count, int& fir
 ScriptRunner::ScriptRunner(std::istream& in, std::ostream& out, ScriptedPlatform& platform, Hands& hands, bool prompt)
     : in_(in), out_(out), platform_(platform), hands_(hands), prompt_(prompt) {
   fillCommands();
-  platform_.onModal = [this](Form& form) {
-    while (form.visible() && !desk().ended()) {
-      if (!runNext()) finishInside();
-    }
+  platform_.onWait = [this] {
+    if (!runNext()) finishInside();
+    return true;
   };
   platform_.onMessageBox = [this](const std::string& title, const std::string& text, MessageButtons buttons) {
     boxes_.push_back({title, text, buttons, std::nullopt});
@@ -229,7 +228,7 @@ void ScriptRunner::finishInside() {
 }
 
 bool ScriptRunner::runNext() {
-  if (!platform_.finishAdvance()) return true;  // a modal window has gone meanwhile: first its opener goes on
+  if (!desk().clock.finish()) return true;  // a modal window has gone meanwhile: first its opener goes on
   if (desk().ended()) return false;
   if (prompt_) out_ << ">" << std::endl;
   std::string line;
@@ -371,7 +370,7 @@ void ScriptRunner::fillCommands() {
     return std::string();
   });
   add("now", {0, 0}, [this](const Tokens&) {
-    out_ << "now = " << platform_.now() << '\n';
+    out_ << "now = " << desk().clock.now() << '\n';
     return std::string();
   });
   add("echo", {0, kMany}, [this](const Tokens& words) {
@@ -387,7 +386,7 @@ void ScriptRunner::fillCommands() {
   add("wait", {1, 1}, [this](const Tokens& words) {
     const auto milliseconds = smallNumber(words[1]);
     if (!milliseconds || *milliseconds < 0) return noNumber(words[1]);
-    platform_.advance(*milliseconds);
+    desk().clock.advance(*milliseconds);
     return std::string();
   });
   add("poke", {2, kMany}, [this](const Tokens& words) { return poke(words); });

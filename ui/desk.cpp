@@ -5,12 +5,11 @@
 
 #include "ui/platform.h"
 #include "ui/runTimeError.h"
+#include "ui/view.h"
 
 namespace zelvs {
 
 namespace {
-
-Platform* thePlatform = nullptr;
 
 /// Front to back; a form never leaves its layer.
 int layerOf(const Form& form) {
@@ -33,14 +32,6 @@ bool within(const Control& control, const Control& holder) {
 }
 
 }  // namespace
-
-Platform& platform() {
-  return *thePlatform;
-}
-
-void setPlatform(Platform* platform) {
-  thePlatform = platform;
-}
 
 Desk& desk() {
   // Never destroyed: forms that live to the end of the program still take their timers out of it.
@@ -76,7 +67,7 @@ void Desk::raise(Form& form) {
   for (auto at = order.rbegin(); at != order.rend(); ++at) {
     if ((*at)->owner() == &form && (*at)->visible() && layerOf(**at) == layerOf(form)) raise(**at);
   }
-  platform().orderChanged();
+  view().orderChanged();
 }
 
 void Desk::show(Form& form, ShowMode mode, Form* owner) {
@@ -86,15 +77,17 @@ void Desk::show(Form& form, ShowMode mode, Form* owner) {
   form.owner_ = owner;
   if (form.kind() == FormKind::Child && !frame()->visible_) {
     frame()->visible_ = true;
-    platform().formShown(*frame());
+    view().formShown(*frame());
   }
   const bool wasVisible = form.visible_;
   form.visible_ = true;
   form.modal_ = mode == ShowMode::Modal;
   if (form.modal_) modals_.push_back(&form);
-  if (!wasVisible) platform().formShown(form);
+  if (!wasVisible) view().formShown(form);
   activate(form);
-  if (mode == ShowMode::Modal && form.visible_) platform().runModal(form);
+  if (mode != ShowMode::Modal) return;
+  while (form.visible_ && !ended_ && platform().waitForEvent()) {
+  }
 }
 
 void Desk::hide(Form& form) {
@@ -104,7 +97,7 @@ void Desk::hide(Form& form) {
   if (std::exchange(form.modal_, false)) raise(form);  // back among its like
   std::erase(modals_, &form);
   if (focused_ != nullptr && &focused_->form() == &form) focus(nullptr);
-  platform().formHidden(form);
+  view().formHidden(form);
   if (active_ != &form) return;
   active_ = nullptr;
   form.deactivated();
@@ -138,7 +131,7 @@ void Desk::activate(Form& form) {
   }
   active_ = &form;
   form.lastActive_ = ++activations_;
-  platform().orderChanged();
+  view().orderChanged();
   form.activated();
   Control* control = form.activeControl_;
   if (active_ == &form && control != nullptr && control->shown() && control->usable()) focus(control);
@@ -177,7 +170,7 @@ void Desk::drop(Form& form) {
     if (other->owner_ == &form) other->owner_ = nullptr;
   }
   std::erase(forms_, &form);
-  platform().formUnloaded(form);
+  view().formUnloaded(form);
   dropped_.push_back(std::move(placeOf(form).form_));
 }
 
@@ -198,6 +191,7 @@ void Desk::clear() {
   active_ = nullptr;
   focused_ = nullptr;
   ended_ = false;
+  clock = {};
 }
 
 }  // namespace zelvs

@@ -3,12 +3,14 @@
 #include <memory>
 #include <vector>
 
+#include "ui/clock.h"
 #include "ui/form.h"
 #include "ui/timer.h"
 
 namespace zelvs {
 
-/// The loaded forms of the program, front to back, who is active, who has the focus, who is modal, and the timers.
+/// The loaded forms of the program, front to back, who is active, who has the focus, who is modal, the clock and
+/// the timers.
 /// Both backends look here, so that they agree.
 class Desk {
  public:
@@ -35,6 +37,7 @@ class Desk {
   void clear();
 
   TimerQueue timers;
+  Clock clock;
 
   /// While one lives, forms that are unloaded stay in memory: a handler may unload the form it runs on.
   class Event {

@@ -5,6 +5,7 @@
 #include "ui/desk.h"
 #include "ui/platform.h"
 #include "ui/runTimeError.h"
+#include "ui/view.h"
 
 namespace zelvs {
 
@@ -40,7 +41,7 @@ void Form::setFocus() {
 }
 
 void Form::repaint() {
-  platform().repaint(*this);
+  view().repaint(*this);
 }
 
 void Form::setTopmost() {
@@ -48,13 +49,13 @@ void Form::setTopmost() {
   topmost_ = true;
   if (already) return;
   desk().raise(*this);
-  platform().formChanged(*this);
+  view().formChanged(*this);
 }
 
 void Form::setFloating(bool floating) {
   floating_ = floating;
   desk().raise(*this);
-  platform().formChanged(*this);
+  view().formChanged(*this);
 }
 
 void Form::move(double left, double top) {
@@ -141,7 +142,7 @@ void Form::markChanged(Control& control) {
   control.nextChanged_ = firstChanged_;
   const bool first = firstChanged_ == nullptr;
   firstChanged_ = &control;
-  if (first) platform().controlsChanged(*this);
+  if (first) view().controlsChanged(*this);
 }
 
 std::vector<Control*> Form::takeChanged() {
@@ -156,7 +157,7 @@ std::vector<Control*> Form::takeChanged() {
 
 void Form::propertyChanged(const void* property) {
   if (property == &Tag) return;
-  platform().formChanged(*this);
+  view().formChanged(*this);
   if (property == &Width || property == &Height) resized();
 }
 
@@ -195,7 +196,7 @@ void FormPlace::load() {
   form_ = make();
   Form& form = *form_;
   desk().loaded(form);
-  platform().formLoaded(form);
+  view().formLoaded(form);
   form.load();
 }
 

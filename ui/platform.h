@@ -1,12 +1,8 @@
 #pragma once
 
-#include <cstdint>
 #include <string>
-#include <string_view>
 
 namespace zelvs {
-
-class Form;
 
 /// A screen in pixels.
 struct Screen {
@@ -22,19 +18,20 @@ struct Point {
 enum class MessageIcon { Question, Information };
 enum class MessageButtons { Ok, OkCancel };
 
-/// All that the control model asks of what it runs on.
+/// What runs the model. What shows it is another thing (ui/view.h).
 class Platform {
  public:
   virtual ~Platform() = default;
 
-  /// Milliseconds from any fixed moment.
-  virtual std::int64_t now() = 0;
-  /// A timer was started, stopped or fired: the next one may be due at another time.
-  virtual void timersChanged() {}
-  /// Lets what is pending happen: timers that are due, painting, input.
+  /// Waits until something happens and lets it happen: a gesture, a wake-up of the clock. False when nothing will ever
+  /// happen any more: who waits for something gives up.
+  virtual bool waitForEvent() = 0;
+  /// Lets what is due happen, so that a long handler does not look dead: timers that are due, painting. Time stands,
+  /// and what the user does waits.
   virtual void yield() = 0;
-  /// Returns when the form is no longer visible, or when the program has ended.
-  virtual void runModal(Form& form) = 0;
+  /// A timer was started, stopped or fired: the clock may want to be woken at another time.
+  virtual void timersChanged() {}
+
   /// The platform's own modal message box. True: OK.
   virtual bool messageBox(const std::string& title, const std::string& text, MessageIcon icon,
                           MessageButtons buttons) = 0;
@@ -50,17 +47,6 @@ class Platform {
   /// Plays the open sound from its start.
   virtual void playSound() = 0;
 
-  // What a view has to know.
-  virtual void formLoaded(Form& /*form*/) {}
-  virtual void formShown(Form& /*form*/) {}
-  virtual void formHidden(Form& /*form*/) {}
-  virtual void formUnloaded(Form& /*form*/) {}
-  /// The form's own properties, or its place in the order of windows, have changed.
-  virtual void formChanged(Form& /*form*/) {}
-  virtual void orderChanged() {}
-  /// The first control of the form changed since Form::takeChanged was last called.
-  virtual void controlsChanged(Form& /*form*/) {}
-  virtual void repaint(Form& /*form*/) {}
   /// The last form is gone: the program shall end with status 0.
   virtual void ended() {}
 };

@@ -16,7 +16,7 @@ Timer::~Timer() {
 void Timer::propertyChanged(const void* property) {
   if (property != &Interval && property != &Enabled) return;
   if (Enabled && Interval > 0) {
-    desk().timers.start(*this, platform().now());
+    desk().timers.start(*this, desk().clock.now());
   } else {
     desk().timers.stop(*this);
   }
@@ -55,7 +55,7 @@ std::optional<std::int64_t> TimerQueue::nextDue() const {
 bool TimerQueue::fireNext(std::int64_t now) {
   Timer* timer = earliest();
   if (timer == nullptr || timer->due_ > now) return false;
-  // Late timers catch up at once, but a clock that has run far ahead does not make them fire in a storm.
+  // A handler that waited in a modal window is late: its timer catches up once and does not fire in a storm.
   timer->due_ = std::max(timer->due_ + timer->Interval, now);
   const Desk::Event event;
   timer->firing_ = true;

@@ -35,7 +35,7 @@ class TimerQueue {
   void start(Timer& timer, std::int64_t now);
   void stop(Timer& timer);
 
-  /// Milliseconds on the platform's clock; nothing when no timer runs.
+  /// Milliseconds on the model's clock; nothing when no timer runs.
   std::optional<std::int64_t> nextDue() const;
   /// Fires the earliest timer when it is due at or before now. False when none is.
   bool fireNext(std::int64_t now);

@@ -10,12 +10,13 @@
 #include "shell/startUp.h"
 #include "support/program.h"
 #include "ui/gesture.h"
+#include "ui/view.h"
 
 namespace zelvs {
 namespace {
 
 /// Looks at the splash each time that it is painted at once.
-class WatchingPlatform final : public ScriptedPlatform {
+class WatchingPlatform final : public ScriptedPlatform, public View {
  public:
   struct Look {
     std::string text;
@@ -57,6 +58,7 @@ TEST_F(SplashTest, TheStartTellsItsNineStepsAndFillsTheBar) {
   };
   WatchingPlatform watching;
   setPlatform(&watching);
+  setView(&watching);
   start();
   const double whole = frmVersion->lblProcess(0).Width;
   ASSERT_EQ(watching.looks.size(), std::size(table));
@@ -72,6 +74,7 @@ TEST_F(SplashTest, TheStartTellsItsNineStepsAndFillsTheBar) {
   EXPECT_EQ(processStep, 8);
   desk().clear();
   setPlatform(&platform);
+  setView(nullptr);
 }
 
 TEST_F(SplashTest, ALongTextGetsNoBlanks) {

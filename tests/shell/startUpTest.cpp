@@ -7,6 +7,7 @@
 #include "shell/startUp.h"
 #include "support/engineFixture.h"
 #include "text/utf8.h"
+#include "ui/view.h"
 
 namespace zelvs {
 namespace {
@@ -107,7 +108,7 @@ TEST_F(StartUpTest, TheBarGrowsByEighthsAndStaysFull) {
 }
 
 /// Watches the splash: what stands on it whenever it is painted.
-class WatchingPlatform final : public ScriptedPlatform {
+class WatchingPlatform final : public ScriptedPlatform, public View {
  public:
   Screen screen() override { return {1920, 1080}; }
   void repaint(Form& form) override {
@@ -123,6 +124,7 @@ class WatchingPlatform final : public ScriptedPlatform {
 TEST_F(StartUpTest, NineMessagesComeInTheirOrder) {
   WatchingPlatform watching;
   setPlatform(&watching);
+  setView(&watching);
   start();
   const char* texts[] = {"メインウィンドウロード中です。",
                          "ハードウェアウィンドウロード中です。",
@@ -139,6 +141,7 @@ TEST_F(StartUpTest, NineMessagesComeInTheirOrder) {
   EXPECT_EQ(watching.doneDuringMessages, kFalse);
   desk().clear();
   setPlatform(&platform);
+  setView(nullptr);
 }
 
 TEST_F(StartUpTest, ATickInsideTheLoadingFindsNoScan) {

@@ -11,6 +11,7 @@
 #include "dialogs/beep.h"
 #include "support/program.h"
 #include "text/textFile.h"
+#include "ui/waveFile.h"
 
 namespace zelvs {
 namespace {

@@ -4,6 +4,7 @@
 #include <vector>
 
 #include "support/program.h"
+#include "ui/view.h"
 
 namespace zelvs {
 
@@ -25,7 +26,7 @@ class FrmSample final : public Form {
 FormRef<FrmSample> frmSample{"frmSample"};
 
 /// Counts how often the view is told.
-class CountingPlatform final : public ScriptedPlatform {
+class CountingPlatform final : public ScriptedPlatform, public View {
  public:
   Screen screen() override { return {1920, 1080}; }
   void controlsChanged(Form&) override { ++controlsChanges; }
@@ -39,6 +40,7 @@ class PropertyTest : public ProgramTest {
  protected:
   PropertyTest() {
     setPlatform(&counting);
+    setView(&counting);
     frmSample.load();
     frmSample->takeChanged();
     counting.controlsChanges = 0;
@@ -47,6 +49,7 @@ class PropertyTest : public ProgramTest {
   ~PropertyTest() override {
     desk().clear();
     setPlatform(&platform);
+    setView(nullptr);
   }
 
   CountingPlatform counting;

@@ -17,7 +17,7 @@ class FrmClock final : public Form {
   static constexpr FormKind kKind = FormKind::Window;
   FrmClock() : Form("frmClock", kKind, Border::Fixed) {
     for (Timer* timer : {&timA, &timB, &timC}) {
-      timer->onTimer = [timer] { theTimerLog.push_back(timer->name() + "@" + std::to_string(platform().now())); };
+      timer->onTimer = [timer] { theTimerLog.push_back(timer->name() + "@" + std::to_string(desk().clock.now())); };
     }
   }
   Timer timA{this, "timA"};
@@ -162,7 +162,7 @@ TEST_F(TimerTest, AHandlerMayStopAnotherTimerThatIsDue) {
 
 TEST_F(TimerTest, AHandlerMayChangeItsOwnInterval) {
   frmClock->timA.onTimer = [] {
-    theTimerLog.push_back("timA@" + std::to_string(zelvs::platform().now()));
+    theTimerLog.push_back("timA@" + std::to_string(desk().clock.now()));
     frmClock->timA.Interval = 100;
   };
   frmClock->timA.Interval = 10;

@@ -3,24 +3,22 @@
 #include <functional>
 #include <string>
 
+#include "ui/desk.h"
 #include "ui/platform.h"
 
 namespace zelvs {
 
-/// A platform whose user is a program: a virtual clock that stands still until it is moved, a pointer that is put
-/// somewhere, and hooks for what waits on the user.
+/// A platform whose user is a program: the clock stands still until it is moved, the pointer is put somewhere, and
+/// hooks stand for what waits on the user.
 class ScriptedPlatform : public Platform {
  public:
-  std::int64_t now() override { return clock_; }
-  /// Moves the clock, firing each timer at its due time. When that closes the modal window, time stands until whoever
-  /// opened it has gone on: what is left is for finishAdvance().
-  void advance(std::int64_t milliseconds);
-  /// Moves the clock by what an advance() has left; does nothing otherwise. False when time stands once more, since
-  /// another modal window has been closed.
-  bool finishAdvance();
+  /// The model's clock.
+  static std::int64_t now() { return desk().clock.now(); }
+  static void advance(std::int64_t milliseconds) { desk().clock.advance(milliseconds); }
+  static bool finishAdvance() { return desk().clock.finish(); }
 
-  void yield() override;
-  void runModal(Form& form) override;
+  bool waitForEvent() override;
+  void yield() override { desk().clock.fireDue(); }
   bool messageBox(const std::string& title, const std::string& text, MessageIcon icon, MessageButtons buttons) override;
 
   Point pointer() override { return pointer_; }
@@ -32,16 +30,14 @@ class ScriptedPlatform : public Platform {
   /// How often the sound was played or the system beep sounded.
   int beeps() const { return beeps_; }
 
-  /// Does what the user does until the form is hidden.
+  /// Does the next thing that the user does; false when there is none.
+  std::function<bool()> onWait;
+  /// In its place: does all that the user does in a modal window.
   std::function<void(Form& form)> onModal;
   /// Answers a message box. True: OK.
   std::function<bool(const std::string& title, const std::string& text, MessageButtons buttons)> onMessageBox;
 
  private:
-  void advanceTo(std::int64_t end);
-
-  std::int64_t clock_ = 0;
-  std::int64_t owed_ = 0;  // where the clock has still to get to; a time that is past owes nothing
   Point pointer_;
   int beeps_ = 0;
 };
@@ -51,8 +47,5 @@ class HeadlessPlatform : public ScriptedPlatform {
  public:
   Screen screen() override { return {1920, 1080}; }
 };
-
-/// True when the file starts as a RIFF wave file does.
-bool isWaveFile(const std::string& path);
 
 }  // namespace zelvs

@@ -6,7 +6,9 @@
 
 #include "ui/desk.h"
 #include "ui/qt/qtPlatform.h"
+#include "ui/qt/windows.h"
 #include "ui/runTimeError.h"
+#include "ui/view.h"
 
 namespace zelvs {
 
@@ -46,12 +48,15 @@ int runDesktop(int& argc, char** argv, const std::function<void()>& start) {
   QApplication::setApplicationName("ZEL-VS");
   setUpLook();
   setRunTimeErrorTeller(tellUser);
+  Windows windows;
   QtPlatform platform;
+  setView(&windows);
   setPlatform(&platform);
   start();
   // The exit question may have been confirmed while the program was still coming up.
   const int status = desk().ended() ? 0 : QApplication::exec();
   desk().clear();
+  setView(nullptr);
   return status;
 }
 

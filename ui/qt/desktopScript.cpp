@@ -17,6 +17,7 @@
 #include "ui/qt/keys.h"
 #include "ui/qt/qtPlatform.h"
 #include "ui/qt/windows.h"
+#include "ui/view.h"
 
 namespace zelvs {
 
@@ -24,21 +25,7 @@ namespace {
 
 class WindowedScriptPlatform final : public ScriptedPlatform {
  public:
-  explicit WindowedScriptPlatform(Windows& windows) : windows_(windows) {}
-
   Screen screen() override { return screenOfQt(); }
-
-  void formLoaded(Form& form) override { windows_.formLoaded(form); }
-  void formShown(Form& form) override { windows_.formShown(form); }
-  void formHidden(Form& form) override { windows_.formHidden(form); }
-  void formUnloaded(Form& form) override { windows_.formUnloaded(form); }
-  void formChanged(Form& form) override { windows_.formChanged(form); }
-  void orderChanged() override { windows_.orderChanged(); }
-  void controlsChanged(Form& form) override { windows_.controlsChanged(form); }
-  void repaint(Form& form) override { windows_.repaint(form); }
-
- private:
-  Windows& windows_;
 };
 
 void send(QWidget& widget, QEvent::Type type, QPointF place, bool down) {
@@ -272,15 +259,18 @@ struct DesktopScript::Parts {
   PlatformChoice choice;
   QApplication application;
   Windows windows;
-  WindowedScriptPlatform platform{windows};
+  WindowedScriptPlatform platform;
   WindowedHands hands{windows};
 };
 
 DesktopScript::DesktopScript(int& argc, char** argv) : parts_(std::make_unique<Parts>(argc, argv)) {
   setPlatform(&parts_->platform);
+  setView(&parts_->windows);
 }
 
-DesktopScript::~DesktopScript() = default;
+DesktopScript::~DesktopScript() {
+  setView(nullptr);
+}
 
 ScriptedPlatform& DesktopScript::platform() {
   return parts_->platform;

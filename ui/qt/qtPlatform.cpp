@@ -4,8 +4,8 @@
 #include <QCursor>
 #include <QIcon>
 #include <QMessageBox>
+#include <QScopedValueRollback>
 #include <QScreen>
-#include <QStyle>
 #include <QStyleFactory>
 
 #include "ui/desk.h"
@@ -14,47 +14,63 @@
 
 namespace zelvs {
 
+namespace {
+
+bool isInput(const QEvent& event) {
+  switch (event.type()) {
+    case QEvent::MouseButtonPress:
+    case QEvent::MouseButtonRelease:
+    case QEvent::MouseButtonDblClick:
+    case QEvent::MouseMove:
+    case QEvent::KeyPress:
+    case QEvent::Close:
+      return true;
+    default:
+      return false;
+  }
+}
+
+}  // namespace
+
 QtPlatform::QtPlatform() {
-  clock_.start();
+  realTime_.start();
   alarm_.setSingleShot(true);
   alarm_.setTimerType(Qt::PreciseTimer);
-  QObject::connect(&alarm_, &QTimer::timeout, &alarm_, [this] { fireTimers(); });
+  connect(&alarm_, &QTimer::timeout, this, &QtPlatform::wakeUp);
+  QApplication::instance()->installEventFilter(this);
 }
 
 void QtPlatform::timersChanged() {
-  const auto due = desk().timers.nextDue();
-  if (due) {
-    alarm_.start(static_cast<int>(std::max<std::int64_t>(*due - now(), 0)));
+  const auto until = desk().clock.untilDue(realTime_.elapsed());
+  if (until) {
+    alarm_.start(static_cast<int>(*until));
   } else {
     alarm_.stop();
   }
 }
 
-void QtPlatform::fireTimers() {
-  // Each timer at most about once, so that painting and input come in between whatever falls due meanwhile.
-  const std::int64_t moment = now();
-  for (std::size_t left = desk().timers.running(); left > 0 && desk().timers.fireNext(moment); --left) {
-  }
+void QtPlatform::wakeUp() {
+  if (yielding_) return;
+  desk().clock.follow(realTime_.elapsed());
   timersChanged();
+}
+
+bool QtPlatform::eventFilter(QObject* watched, QEvent* event) {
+  // What the user does falls at the time at which it is done: the timers that were due before have fired.
+  if (event->spontaneous() && watched->isWindowType() && isInput(*event)) wakeUp();
+  return false;
+}
+
+bool QtPlatform::waitForEvent() {
+  timersChanged();
+  QApplication::processEvents(QEventLoop::WaitForMoreEvents);
+  return true;
 }
 
 void QtPlatform::yield() {
-  // A timer that calls back here has stopped the alarm: the others go on.
-  timersChanged();
-  QApplication::processEvents();
-}
-
-void QtPlatform::runModal(Form& form) {
-  timersChanged();
-  QEventLoop loop;
-  modalLoops_.insert(&form, &loop);
-  loop.exec();
-  modalLoops_.remove(&form);
-}
-
-void QtPlatform::formHidden(Form& form) {
-  windows_.formHidden(form);
-  if (QEventLoop* loop = modalLoops_.value(&form)) loop->quit();
+  const QScopedValueRollback<bool> yielding(yielding_, true);
+  desk().clock.fireDue();
+  QApplication::processEvents(QEventLoop::ExcludeUserInputEvents);
 }
 
 bool QtPlatform::messageBox(const std::string& title, const std::string& text, MessageIcon icon,
@@ -65,7 +81,7 @@ bool QtPlatform::messageBox(const std::string& title, const std::string& text, M
   QMessageBox box(icon == MessageIcon::Question ? QMessageBox::Question : QMessageBox::Information,
                   QString::fromStdString(title), QString::fromStdString(text),
                   buttons == MessageButtons::Ok ? QMessageBox::Ok : QMessageBox::Ok | QMessageBox::Cancel,
-                  modal != nullptr ? modal : windows_.frame());
+                  modal != nullptr ? modal : QApplication::activeWindow());
   box.setWindowFlag(Qt::WindowStaysOnTopHint);  // the splash and the lesson do so too
   return box.exec() == QMessageBox::Ok;
 }
@@ -89,9 +105,6 @@ void QtPlatform::systemBeep() {
 }
 
 void QtPlatform::ended() {
-  const auto loops = modalLoops_;
-  for (QEventLoop* loop : loops)
-    loop->quit();
   QApplication::exit(0);
 }
 

@@ -1,50 +1,43 @@
 #pragma once
 
 #include <QElapsedTimer>
-#include <QEventLoop>
-#include <QHash>
+#include <QObject>
 #include <QTimer>
 
 #include "ui/platform.h"
 #include "ui/qt/sound.h"
-#include "ui/qt/windows.h"
+
+class QWidget;
 
 namespace zelvs {
 
-/// The desktop with a person before it: real time, real windows.
-class QtPlatform final : public Platform {
+/// The desktop with a person before it: real time, real events. Each wake-up, an input among them, first moves the
+/// model's clock to the present.
+class QtPlatform final : public QObject, public Platform {
+  Q_OBJECT
  public:
   QtPlatform();
 
-  std::int64_t now() override { return clock_.elapsed(); }
-  void timersChanged() override;
+  bool waitForEvent() override;
   void yield() override;
-  void runModal(Form& form) override;
+  void timersChanged() override;
   bool messageBox(const std::string& title, const std::string& text, MessageIcon icon, MessageButtons buttons) override;
   Screen screen() override;
   Point pointer() override;
   void systemBeep() override;
   bool openSound(const std::string& path) override { return sound_.open(path); }
   void playSound() override { sound_.play(); }
-
-  void formLoaded(Form& form) override { windows_.formLoaded(form); }
-  void formShown(Form& form) override { windows_.formShown(form); }
-  void formHidden(Form& form) override;
-  void formUnloaded(Form& form) override { windows_.formUnloaded(form); }
-  void formChanged(Form& form) override { windows_.formChanged(form); }
-  void orderChanged() override { windows_.orderChanged(); }
-  void controlsChanged(Form& form) override { windows_.controlsChanged(form); }
-  void repaint(Form& form) override { windows_.repaint(form); }
   void ended() override;
 
- private:
-  void fireTimers();
+  bool eventFilter(QObject* watched, QEvent* event) override;
 
-  Windows windows_;
+ private:
+  void wakeUp();
+
   WaveSound sound_;
-  QElapsedTimer clock_;
+  QElapsedTimer realTime_;
   QTimer alarm_;
-  QHash<const Form*, QEventLoop*> modalLoops_;
+  bool yielding_ = false;  // time stands
 };
 
 /// Size of the first screen in logical pixels.

@@ -3,7 +3,7 @@
 #include <QSoundEffect>
 #include <QUrl>
 
-#include "ui/headless/scriptedPlatform.h"
+#include "ui/waveFile.h"
 
 namespace zelvs {
 

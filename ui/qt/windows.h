@@ -9,25 +9,26 @@
 
 #include "ui/form.h"
 #include "ui/qt/canvas.h"
+#include "ui/view.h"
 
 namespace zelvs {
 
 /// The window of each loaded form, kept as the model says: shown, placed, stacked and painted once per return to the
 /// event loop. What the user does to a window itself (moving, closing, turning to it) goes back as gestures.
-class Windows final : public QObject {
+class Windows final : public QObject, public View {
   Q_OBJECT
  public:
   Windows();
   ~Windows() override;
 
-  void formLoaded(Form& form);
-  void formShown(Form& form);
-  void formHidden(Form& form);
-  void formUnloaded(Form& form);
-  void formChanged(Form& form);
-  void orderChanged();
-  void controlsChanged(Form& form);
-  void repaint(Form& form);
+  void formLoaded(Form& form) override;
+  void formShown(Form& form) override;
+  void formHidden(Form& form) override;
+  void formUnloaded(Form& form) override;
+  void formChanged(Form& form) override;
+  void orderChanged() override;
+  void controlsChanged(Form& form) override;
+  void repaint(Form& form) override;
 
   /// Shows now what has changed since the last time.
   void flush();
