@@ -12,6 +12,7 @@
 #include "shell/startUp.h"
 #include "state/state.h"
 #include "ui/desk.h"
+#include "ui/headless/headlessHands.h"
 #include "ui/platform.h"
 #ifdef ZELVS_DESKTOP
 #include "ui/qt/desktopScript.h"
@@ -99,6 +100,6 @@ int main(int argc, char** argv) {
 #endif
   zelvs::HeadlessPlatform platform;
   zelvs::setPlatform(&platform);
-  zelvs::Hands hands;
+  zelvs::HeadlessHands hands;
   return runScript(commands, platform, hands, options.prompt);
 }

@@ -22,6 +22,12 @@ Area Area::intersected(const Area& other) const {
   return {l, t, std::min(right(), other.right()) - l, std::min(bottom(), other.bottom()) - t};
 }
 
+Area Area::united(const Area& other) const {
+  const double l = std::min(left, other.left);
+  const double t = std::min(top, other.top);
+  return {l, t, std::max(right(), other.right()) - l, std::max(bottom(), other.bottom()) - t};
+}
+
 Control::Control(Form* form, std::string_view name, int index, ControlKind kind)
     : form_(form), name_(name), index_(index), kind_(kind) {
   form->join(*this);

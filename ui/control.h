@@ -61,7 +61,16 @@ struct Area {
   double bottom() const { return top + height; }
   bool contains(double x, double y) const { return x >= left && x < right() && y >= top && y < bottom(); }
   Area intersected(const Area& other) const;
+  /// The smallest area that holds both.
+  Area united(const Area& other) const;
+  /// Smaller by that much at each side; a negative number makes it larger.
+  Area shrunk(double by) const { return {left + by, top + by, width - 2 * by, height - 2 * by}; }
+  /// True when they share more than an edge.
+  bool touches(const Area& other) const {
+    return left < other.right() && other.left < right() && top < other.bottom() && other.top < bottom();
+  }
   bool empty() const { return width <= 0 || height <= 0; }
+  friend bool operator==(const Area&, const Area&) = default;
 };
 
 /// What every control of a window has. A control lives as long as its form; it is reached by its name and, in an

@@ -105,6 +105,7 @@ class TextBox : public Control {
   Property<int> SelStart{this, 0};
   Property<int> SelLength{this, 0};
   Property<int> MaxLength{this, 0};  ///< 0: no limit
+  Property<bool> KeepsEnter{this, false};  ///< Enter is the field's own: no button answers it from there
 
   /// May change the character; 0 drops it.
   std::function<void(char32_t& character)> onKeyPress;
@@ -113,13 +114,15 @@ class TextBox : public Control {
   void propertyChanged(const void* property) override;
 };
 
-/// A push button. The Default button of a form also answers Enter; a form has at most one.
+/// A push button. The Default button of a form also answers Enter, the Cancel button Escape; a form has at most one of
+/// each.
 class CommandButton : public Control {
  public:
   CommandButton(Form* form, std::string_view name, int index = -1)
       : Control(form, name, index, ControlKind::CommandButton) {}
 
   Property<bool> Default{this, false};
+  Property<bool> Cancel{this, false};
 
   void propertyChanged(const void* property) override;
 };

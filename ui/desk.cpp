@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <utility>
 
+#include "ui/controls.h"
 #include "ui/platform.h"
 #include "ui/runTimeError.h"
 #include "ui/view.h"
@@ -18,6 +19,15 @@ int layerOf(const Form& form) {
   if (form.inFront()) return kTopmost;
   if (form.kind() == FormKind::Window) return kWindow;
   return form.floating() ? kFloatingChild : kChild;
+}
+
+/// Which button Enter pushes depends on who has the focus, and is seen on the button.
+void markDefaultButton(const Form& form) {
+  for (Control* control : form.controls()) {
+    if (control->kind() == ControlKind::CommandButton && static_cast<CommandButton&>(*control).Default) {
+      control->markChanged();
+    }
+  }
 }
 
 FormPlace& placeOf(const Form& form) {
@@ -57,7 +67,7 @@ void Desk::loaded(Form& form) {
   forms_.insert(behind, &form);
 }
 
-void Desk::raise(Form& form) {
+void Desk::raiseWithOwned(Form& form) {
   std::erase(forms_, &form);
   const auto front =
       std::find_if(forms_.begin(), forms_.end(), [&](const Form* other) { return layerOf(*other) >= layerOf(form); });
@@ -65,9 +75,14 @@ void Desk::raise(Form& form) {
   // What a window owns stays in front of it.
   const std::vector<Form*> order = forms_;
   for (auto at = order.rbegin(); at != order.rend(); ++at) {
-    if ((*at)->owner() == &form && (*at)->visible() && layerOf(**at) == layerOf(form)) raise(**at);
+    if ((*at)->owner() == &form && (*at)->visible() && layerOf(**at) == layerOf(form)) raiseWithOwned(**at);
   }
-  view().orderChanged();
+}
+
+void Desk::raise(Form& form) {
+  const std::vector<Form*> before = forms_;
+  raiseWithOwned(form);
+  if (forms_ != before) view().orderChanged();
 }
 
 void Desk::show(Form& form, ShowMode mode, Form* owner) {
@@ -82,8 +97,12 @@ void Desk::show(Form& form, ShowMode mode, Form* owner) {
   const bool wasVisible = form.visible_;
   form.visible_ = true;
   form.modal_ = mode == ShowMode::Modal;
-  if (form.modal_) modals_.push_back(&form);
+  if (form.modal_) {
+    hand.lose();  // from here on the mouse is the modal window's
+    modals_.push_back(&form);
+  }
   if (!wasVisible) view().formShown(form);
+  fitScroll(form);
   activate(form);
   if (mode != ShowMode::Modal) return;
   while (form.visible_ && !ended_ && platform().waitForEvent()) {
@@ -97,7 +116,9 @@ void Desk::hide(Form& form) {
   if (std::exchange(form.modal_, false)) raise(form);  // back among its like
   std::erase(modals_, &form);
   if (focused_ != nullptr && &focused_->form() == &form) focus(nullptr);
+  hand.windowGone(form);
   view().formHidden(form);
+  fitScroll(form);
   if (active_ != &form) return;
   active_ = nullptr;
   form.deactivated();
@@ -144,20 +165,37 @@ void Desk::focus(Control* control) {
   focused_ = nullptr;
   if (before != nullptr) {
     before->markChanged();
-    if (before->onLostFocus) before->onLostFocus();
+    markDefaultButton(before->form());
+    if (before->onLostFocus) {
+      leaving_.push_back(before);
+      before->onLostFocus();
+      leaving_.pop_back();
+    }
   }
   // The handler may have given the focus away itself, or hidden the control that was to have it.
-  if (control == nullptr || focused_ != nullptr || !control->shown() || !control->usable()) return;
+  if (control == nullptr || focused_ != nullptr || leaving(*control)) return;
+  if (!control->shown() || !control->usable()) return;
   focused_ = control;
   control->form().activeControl_ = control;
   control->markChanged();
+  markDefaultButton(control->form());
   if (control->onGotFocus) control->onGotFocus();
+}
+
+bool Desk::leaving(const Control& control) const {
+  return std::find(leaving_.begin(), leaving_.end(), &control) != leaving_.end();
 }
 
 void Desk::focusHidden(const Control& control) {
   if (focused_ == nullptr || !within(*focused_, control)) return;
   focused_->form().activeControl_ = nullptr;
   focus(nullptr);
+}
+
+void Desk::fitScroll(const Form& changed) {
+  Form* frame = this->frame();
+  if (frame == nullptr || changed.kind() == FormKind::Window || !frame->visible()) return;
+  frame->scrollTo(frame->ScrollLeft, frame->ScrollTop);
 }
 
 void Desk::drop(Form& form) {
@@ -192,6 +230,8 @@ void Desk::clear() {
   focused_ = nullptr;
   ended_ = false;
   clock = {};
+  hand = {};
+  pressed = {};
 }
 
 }  // namespace zelvs

@@ -5,6 +5,7 @@
 
 #include "ui/clock.h"
 #include "ui/form.h"
+#include "ui/hand.h"
 #include "ui/timer.h"
 
 namespace zelvs {
@@ -24,9 +25,13 @@ class Desk {
 
   /// Activates the form and brings it to the front; one that is hidden stays as it is.
   void activate(Form& form);
+  /// Gives the control the focus, or takes it from whoever has it. While a control's handler of the lost focus runs, the
+  /// control does not get it back: it is left once, whatever its handler shows meanwhile.
   void focus(Control* control);
   /// The control, or what holds it, has been hidden or disabled: a focus inside is lost.
   void focusHidden(const Control& control);
+  /// A window's place, size or visibility has changed: the frame is scrolled no further than its children reach.
+  void fitScroll(const Form& changed);
 
   /// True once the user has confirmed the exit.
   bool ended() const { return ended_; }
@@ -38,6 +43,8 @@ class Desk {
 
   TimerQueue timers;
   Clock clock;
+  Hand hand;
+  Hand::Target pressed;  ///< the press that a click is still waiting for its release of
 
   /// While one lives, forms that are unloaded stay in memory: a handler may unload the form it runs on.
   class Event {
@@ -56,10 +63,13 @@ class Desk {
   void hide(Form& form);
   void drop(Form& form);
   void raise(Form& form);
+  void raiseWithOwned(Form& form);
   void activateLatest();
+  bool leaving(const Control& control) const;
 
   std::vector<Form*> forms_;
   std::vector<Form*> modals_;
+  std::vector<const Control*> leaving_;  // their handlers of the lost focus run
   Form* active_ = nullptr;
   Control* focused_ = nullptr;
   bool ended_ = false;

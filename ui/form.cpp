@@ -70,6 +70,52 @@ void Form::keepOnScreen() {
   move(std::max(0.0, std::min<double>(Left, right)), std::max(0.0, std::min<double>(Top, bottom)));
 }
 
+Area Form::clientArea() const {
+  return {insideLeft(), clientAreaTop(), clientWidth(), std::max(clientHeight() - barHeight(), 0.0)};
+}
+
+Area Form::scrollRange() const {
+  const Area seen = clientArea();
+  Area range{0, 0, seen.width, seen.height};
+  for (const Form* form : desk().forms()) {
+    if (form->kind() != FormKind::Child || !form->visible() || form->floating()) continue;
+    range = range.united({form->Left, form->Top, form->Width, form->Height});
+  }
+  return range;
+}
+
+void Form::scrollTo(double left, double top) {
+  const Area seen = clientArea();
+  const Area range = scrollRange();
+  ScrollLeft = std::clamp(left, range.left, std::max(range.left, range.right() - seen.width));
+  ScrollTop = std::clamp(top, range.top, std::max(range.top, range.bottom() - seen.height));
+}
+
+void Form::reveal() {
+  Form* frame = desk().frame();
+  if (kind_ != FormKind::Child || floating_ || frame == nullptr) return;
+  const Area seen = frame->clientArea();
+  const auto along = [](double scroll, double room, double from, double to) {
+    return std::min(std::max(scroll, to - room), from);
+  };
+  frame->scrollTo(along(frame->ScrollLeft, seen.width, Left, Left + Width),
+                  along(frame->ScrollTop, seen.height, Top, Top + Height));
+}
+
+void Form::dragTo(double left, double top) {
+  constexpr double kGrip = 60 * kTwipsPerPixel;  // what of the caption bar stays in reach
+  const Screen screen = platform().screen();
+  Area room{0, 0, screen.width * kTwipsPerPixel, screen.height * kTwipsPerPixel};
+  if (kind_ == FormKind::Child) {
+    const Form& frame = *desk().frame();
+    const double edge = floating_ ? kClientEdge : 0;
+    room = {edge, edge, frame.clientWidth(), floating_ ? frame.clientHeight() : frame.clientArea().height};
+    if (!floating_) room = frame.scrollRange();
+  }
+  move(std::clamp(left, room.left + kGrip - Width, std::max(room.left, room.right() - kGrip)),
+       std::clamp(top, room.top, std::max(room.top, room.bottom() - kCaptionHeight)));
+}
+
 void Form::moveToCorner(double fromRight, double fromBottom) {
   const Screen screen = platform().screen();
   move(screen.width * kTwipsPerPixel - Width - fromRight, screen.height * kTwipsPerPixel - Height - fromBottom);
@@ -81,12 +127,15 @@ double Form::clientHeight() const {
 
 double Form::insideLeft() const {
   const Form* frame = kind_ == FormKind::Child ? desk().frame() : nullptr;
-  return Left + (frame != nullptr ? frame->insideLeft() - (floating_ ? kClientEdge : 0) : 0);
+  if (frame == nullptr) return Left;
+  return Left + frame->insideLeft() - (floating_ ? kClientEdge : frame->ScrollLeft.get());
 }
 
 double Form::insideTop() const {
   const Form* frame = kind_ == FormKind::Child ? desk().frame() : nullptr;
-  const double above = frame == nullptr ? 0 : floating_ ? frame->insideTop() - kClientEdge : frame->clientAreaTop();
+  const double above = frame == nullptr ? 0
+                       : floating_     ? frame->insideTop() - kClientEdge
+                                       : frame->clientAreaTop() - frame->ScrollTop;
   return above + Top + (Height - clientHeight());
 }
 
@@ -159,6 +208,7 @@ void Form::propertyChanged(const void* property) {
   if (property == &Tag) return;
   view().formChanged(*this);
   if (property == &Width || property == &Height) resized();
+  if (property == &Left || property == &Top || property == &Width || property == &Height) desk().fitScroll(*this);
 }
 
 namespace {

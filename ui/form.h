@@ -40,6 +40,10 @@ class Form : public PropertyOwner {
   Property<double> Height{this, 4000};
   Property<Colour> BackColor{this, kButtonFace};
 
+  /// Of a frame: how far its client area is scrolled, in twips. Set by scrollTo() alone.
+  Property<double> ScrollLeft{this};
+  Property<double> ScrollTop{this};
+
   const std::string& name() const { return name_; }
   FormKind kind() const { return kind_; }
   Border border() const { return border_; }
@@ -72,6 +76,18 @@ class Form : public PropertyOwner {
   /// Shifts a window that stands by itself until all of it lies on the screen; what is larger than the screen keeps
   /// its left top corner there.
   void keepOnScreen();
+  /// A hand drags the window: it goes there as far as its caption bar can still be reached.
+  void dragTo(double left, double top);
+  /// Scrolls the frame's client area until as much of this child is seen as fits, its left top corner at the least.
+  void reveal();
+
+  /// Of a frame: the part of its inside in which children show, in twips of the screen.
+  Area clientArea() const;
+  /// Of a frame: what its children take, in twips of the client area; at least the client area itself.
+  Area scrollRange() const;
+  /// Of a frame: scrolls as far as there are children.
+  void scrollTo(double left, double top);
+
   /// Puts a window that stands by itself into the right bottom corner of the screen, at these distances in twips.
   void moveToCorner(double fromRight, double fromBottom);
 

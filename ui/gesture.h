@@ -9,6 +9,7 @@ namespace zelvs {
 /// Key codes of the platform that the program knows by name.
 namespace key {
 inline constexpr int kBackspace = 8;
+inline constexpr int kTab = 9;
 inline constexpr int kEnter = 13;
 inline constexpr int kEscape = 27;
 inline constexpr int kSpace = 32;
@@ -21,6 +22,7 @@ inline constexpr int kUp = 38;
 inline constexpr int kRight = 39;
 inline constexpr int kDown = 40;
 inline constexpr int kDelete = 46;
+inline constexpr int kF1 = 112;  ///< the others up to F12 behind it
 }  // namespace key
 
 /// What the user can do. Every backend calls these and nothing else: no handler is ever reached another way. Each
@@ -52,6 +54,21 @@ std::string keyDown(Control& control, int code);
 /// The close box. A refusal by the form's own question counts as taken.
 std::string close(Form& form);
 std::string activate(Form& form);
+
+// What a press is made of, for a hand that may be interrupted between them (ui/hand.h). They refuse nothing.
+
+/// The user turns to the form and, where it takes the focus, to the control. May be refused like a gesture.
+std::string turnTo(Form& form, Control* control);
+void pressed(Form& form, Control* control);
+void pressedAgain(Form& form, Control* control);
+/// Mouse up without a click, also where a modal window shuts the user out.
+void letGo(const Control* control);
+/// What the control does by itself when it is clicked, and its handler.
+void clicked(Form& form, Control* control);
+bool actsOnDoubleClick(const Control* control);
+
+/// Where a click puts the caret: x counts from the field's left edge, in twips.
+int caretAt(const TextBox& text, double x);
 
 }  // namespace gesture
 }  // namespace zelvs

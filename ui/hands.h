@@ -1,13 +1,17 @@
 #pragma once
 
+#include <optional>
 #include <string>
 
 #include "ui/gesture.h"
+#include "ui/hand.h"
+#include "ui/platform.h"
 
 namespace zelvs {
 
-/// The user's hands in a script. These reach the model directly; a backend with windows sends real events instead.
-/// A result that is not empty tells why the gesture could not be made.
+/// The user's hands in a script. Gestures are made by name and are refused when their target cannot be reached; a
+/// result that is not empty tells why. These reach the model directly; a backend with windows sends real events
+/// instead.
 class Hands {
  public:
   virtual ~Hands() = default;
@@ -27,6 +31,18 @@ class Hands {
   virtual std::string activate(Form& form) { return gesture::activate(form); }
   /// A PNG of one form, or of the frame and all above it when form is null.
   virtual std::string screenshot(Form* /*form*/, const std::string& /*file*/) { return "a picture needs --desktop"; }
+
+  // The mouse and the keyboard themselves: they go to whatever lies there and are refused nothing.
+
+  /// The middle of a form's inside, of a control or of a row (from 0) of a list, in pixels of the screen; a row that is
+  /// out of sight is scrolled to. Nothing when there is no such row.
+  virtual std::optional<Point> placeOf(Form& form, Control* control, std::optional<int> row) = 0;
+  /// Pixels of the screen.
+  virtual void handMove(Point place) = 0;
+  /// The left button. Two presses at one place within 400 ms are those of a double click.
+  virtual void handDown() = 0;
+  virtual void handUp() = 0;
+  virtual void handKey(const Key& key) = 0;
 };
 
 }  // namespace zelvs

@@ -64,6 +64,7 @@ void keyDown(TextBox& field, int& code, EnterKey enterKey) {
 
 void attachHexField(TextBox& field, const HexFieldRules& rules) {
   field.MaxLength = rules.length;
+  field.KeepsEnter = rules.enterKey != EnterKey::PassedOn;
   field.onKeyPress = [upperCase = rules.upperCase](char32_t& character) { keyPress(character, upperCase); };
   field.onKeyDown = [&field, enterKey = rules.enterKey](int& code) { keyDown(field, code, enterKey); };
   field.onChange = [&field] { select(field, field.SelStart); };

@@ -4,14 +4,13 @@
 
 #include <QApplication>
 #include <QMainWindow>
-#include <QMdiArea>
-#include <QMdiSubWindow>
 #include <QMouseEvent>
 
 #include "bench/frmHard.h"
 #include "monitor/frmDumpDRC.h"
 #include "qt/support/desktop.h"
 #include "shell/frmMDI.h"
+#include "ui/qt/clientArea.h"
 
 namespace zelvs {
 namespace {
@@ -24,11 +23,15 @@ class FloatingTest : public DesktopTest {
     EXPECT_EQ(hands().click(control.form(), &control), "");
     settle();
   }
-  static QMdiSubWindow* windowOf(const Form* form) {
-    return qobject_cast<QMdiSubWindow*>(canvasOf(form)->parentWidget());
+  static ChildWindow* windowOf(const Form* form) {
+    return qobject_cast<ChildWindow*>(canvasOf(form)->parentWidget());
+  }
+  /// The area of the other children that it lies in, null when it lies in the frame itself.
+  static ClientArea* areaOf(const ChildWindow& window) {
+    return qobject_cast<ClientArea*>(window.parentWidget()->parentWidget());
   }
   /// What the user sees at the middle of the memory window.
-  static QWidget* seen(const QMdiSubWindow& window) {
+  static QWidget* seen(const ChildWindow& window) {
     QWidget* frame = window.window();
     QWidget* widget = frame->childAt(window.mapTo(frame, window.rect().center()));
     while (widget != nullptr && qobject_cast<Canvas*>(widget) == nullptr)
@@ -38,7 +41,7 @@ class FloatingTest : public DesktopTest {
 };
 
 TEST_F(FloatingTest, ItStaysInFrontOfThePanelAndComesBackToItsPlace) {
-  QMdiSubWindow* window = windowOf(frmDumpDRC.form());
+  ChildWindow* window = windowOf(frmDumpDRC.form());
   ASSERT_NE(window, nullptr);
   // Over the panel.
   frmDumpDRC->move(1500, 3000);
@@ -49,7 +52,7 @@ TEST_F(FloatingTest, ItStaysInFrontOfThePanelAndComesBackToItsPlace) {
 
   click(frmDumpDRC->chkTopMost);
   EXPECT_EQ(windowOf(frmDumpDRC.form()), window) << "the same window with the same title bar";
-  EXPECT_EQ(window->mdiArea(), nullptr);
+  EXPECT_EQ(areaOf(*window), nullptr);
   EXPECT_TRUE(window->isVisible());
   EXPECT_EQ(window->mapToGlobal(QPoint(0, 0)), place);
   desk().activate(*frmHard);
@@ -58,7 +61,7 @@ TEST_F(FloatingTest, ItStaysInFrontOfThePanelAndComesBackToItsPlace) {
   EXPECT_TRUE(frmDumpDRC->floating());
 
   click(frmDumpDRC->chkTopMost);
-  EXPECT_NE(window->mdiArea(), nullptr);
+  EXPECT_NE(areaOf(*window), nullptr);
   EXPECT_TRUE(window->isVisible());
   EXPECT_EQ(window->mapToGlobal(QPoint(0, 0)), place);
   desk().activate(*frmHard);
@@ -68,7 +71,7 @@ TEST_F(FloatingTest, ItStaysInFrontOfThePanelAndComesBackToItsPlace) {
 
 TEST_F(FloatingTest, ThePlaceThatTheUserGivesItIsTheModels) {
   click(frmDumpDRC->chkTopMost);
-  QMdiSubWindow* window = windowOf(frmDumpDRC.form());
+  ChildWindow* window = windowOf(frmDumpDRC.form());
   window->move(300, 200);
   settle();
   EXPECT_EQ(frmDumpDRC->Left, 300 * 15 + 30.0);
@@ -82,7 +85,7 @@ TEST_F(FloatingTest, ItIsDraggedByItsTitleBarAndTurnedToByIt) {
   click(frmDumpDRC->chkTopMost);
   desk().activate(*frmHard);
   settle();
-  QMdiSubWindow* window = windowOf(frmDumpDRC.form());
+  ChildWindow* window = windowOf(frmDumpDRC.form());
   const QPoint before = window->pos();
   const QPointF grip(150, 8);
   const auto send = [&](QEvent::Type type, QPointF at, bool down) {
@@ -110,7 +113,7 @@ TEST_F(FloatingTest, ClosedWhileItFloatsItComesBackAmongTheOthers) {
   frmDumpDRC->show();
   settle();
   EXPECT_FALSE(frmDumpDRC->floating());
-  EXPECT_NE(windowOf(frmDumpDRC.form())->mdiArea(), nullptr);
+  EXPECT_NE(areaOf(*windowOf(frmDumpDRC.form())), nullptr);
 }
 
 }  // namespace

@@ -19,7 +19,7 @@
 #include "qt/support/desktop.h"
 #include "shell/frmMDI.h"
 #include "ui/controls.h"
-#include "ui/qt/drawing.h"
+#include "ui/qt/qtPainter.h"
 #include "ui/qt/windows.h"
 #include "ui/textExtent.h"
 
@@ -301,7 +301,7 @@ TEST_F(GalleryTest, DrawnLinesAreAlikeAtEveryScale) {
     QImage image(QSizeF(400 * scale, 360 * scale).toSize(), QImage::Format_RGB32);
     image.setDevicePixelRatio(scale);
     QPainter painter(&image);
-    drawControls(painter, *frmGallery, QRegion(0, 0, 400, 360));
+    drawForm(painter, *frmGallery, QRegion(0, 0, 400, 360));
     painter.end();
     std::vector<int> widths;
     bool before = false;
@@ -330,7 +330,7 @@ TEST_F(GalleryTest, TextIsAsWideAsTheModelCounts) {
     QImage image(400, 360, QImage::Format_RGB32);
     image.fill(Qt::white);
     QPainter painter(&image);
-    drawControls(painter, *frmGallery, QRegion(0, 0, 400, 360));
+    drawForm(painter, *frmGallery, QRegion(0, 0, 400, 360));
     painter.end();
     int end = 0;
     for (int y = 294; y < 332; ++y)

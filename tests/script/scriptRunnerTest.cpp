@@ -5,6 +5,7 @@
 
 #include "monitor/frmRegister.h"
 #include "script/scriptRunner.h"
+#include "ui/headless/headlessHands.h"
 #include "shell/frmMDI.h"
 #include "state/randomSource.h"
 #include "support/program.h"
@@ -20,7 +21,7 @@ class ScriptRunnerTest : public ProgramTest {
   std::string run(const std::string& commands, bool prompt = false) {
     std::istringstream in(commands);
     std::ostringstream out;
-    Hands hands;
+    HeadlessHands hands;
     ScriptRunner runner(in, out, platform, hands, prompt);
     status = runner.run();
     platform.onModal = nullptr;

@@ -6,7 +6,7 @@
 
 #include "ui/gesture.h"
 #include "ui/qt/canvas.h"
-#include "ui/qt/drawing.h"
+#include "ui/qt/qtPainter.h"
 
 namespace zelvs {
 

@@ -1,69 +1,47 @@
 #include "ui/qt/canvas.h"
 
+#include <QAbstractScrollArea>
+#include <QComboBox>
 #include <QHelpEvent>
 #include <QMouseEvent>
 #include <QPainter>
 #include <QToolTip>
-#include <algorithm>
 #include <utility>
 #include <vector>
 
 #include "ui/desk.h"
-#include "ui/gesture.h"
-#include "ui/qt/drawing.h"
 #include "ui/qt/hosted.h"
 #include "ui/qt/keys.h"
+#include "ui/qt/qtPainter.h"
 #include "ui/qt/sprites.h"
+#include "ui/windowFrame.h"
 
 namespace zelvs {
 
-namespace {
-
-/// The Tab key goes line by line, and through all of a group before it goes on beside it.
-void appendInReadingOrder(std::vector<Control*> siblings, std::vector<Control*>& order) {
-  std::stable_sort(siblings.begin(), siblings.end(), [](const Control* a, const Control* b) {
-    return std::pair<double, double>(a->Top, a->Left) < std::pair<double, double>(b->Top, b->Left);
-  });
-  for (Control* control : siblings) {
-    order.push_back(control);
-    appendInReadingOrder(control->children(), order);
-  }
-}
-
-}  // namespace
-
 Canvas::Canvas(Form& form) : form_(&form) {
   setMouseTracking(true);
-  setFocusPolicy(Qt::StrongFocus);
+  setFocusPolicy(Qt::TabFocus);  // the model says who has the keyboard
   setAttribute(Qt::WA_OpaquePaintEvent);
   setObjectName(QString::fromStdString(form.name()));
   for (Control* control : form.controls()) {
     QWidget* widget = hostedWidget(*control, this);
-    if (widget != nullptr) widgets_.insert(control, widget);
+    if (widget == nullptr) continue;
+    widget->setFocusPolicy(Qt::TabFocus);
+    widgets_.insert(control, widget);
+    widget->installEventFilter(this);
+    if (auto* area = qobject_cast<QAbstractScrollArea*>(widget)) area->viewport()->installEventFilter(this);
   }
   fitForm();
   showChanges(form.controls());
 }
 
-void Canvas::setTabOrderAsSeen() {
-  std::vector<Control*> order;
-  appendInReadingOrder(form_->topControls(), order);
-  QWidget* before = nullptr;
-  for (const Control* control : order) {
-    QWidget* widget = widgetOf(*control);
-    if (widget == nullptr) continue;
-    if (before != nullptr) setTabOrder(before, widget);
-    before = widget;
-  }
-}
-
 void Canvas::forgetForm() {
   form_ = nullptr;
-  pressed_ = nullptr;
+  pointedAt_ = nullptr;
   // What still lies in the queue for these widgets must not reach controls that are gone.
   qDeleteAll(widgets_);
   widgets_.clear();
-  painted_.clear();
+  dirty_.forget();
 }
 
 void Canvas::fitForm() {
@@ -77,34 +55,13 @@ void Canvas::fitForm() {
   }
 }
 
-QRect Canvas::placeOf(const Control& control) const {
-  // A line may be thicker than nothing, and letters may stand out of their place a little.
-  constexpr int kMargin = 2;
-  if (control.kind() == ControlKind::Line) return rect();
-  if (!control.shown()) return {};
-  return pixelsOf(control.area()).toAlignedRect().adjusted(-kMargin, -kMargin, kMargin, kMargin);
-}
-
-void Canvas::markDirty(const Control& control) {
-  const QRect place = placeOf(control);
-  QRect& before = painted_[&control];
-  if (!before.isNull()) update(before);
-  if (!place.isNull() && place != before) update(place);
-  before = place;
-}
-
 void Canvas::showChanges(const std::vector<Control*>& changed) {
-  constexpr std::size_t kManyPlaces = 100;
-  const bool all = changed.size() > kManyPlaces;
-  if (all) update();
+  const DirtyPlaces::Dirty dirty = dirty_.of(changed);
+  if (dirty.whole) update();
+  for (const Area& place : dirty.places)
+    update(pixelsOf(place).toAlignedRect());
   for (Control* control : changed) {
-    if (QWidget* widget = widgetOf(*control)) {
-      showHosted(*control, *widget);
-    } else if (!all) {
-      markDirty(*control);
-    } else {
-      painted_[control] = placeOf(*control);
-    }
+    if (QWidget* widget = widgetOf(*control)) showHosted(*control, *widget);
     // What a container holds appears, disappears and moves with it.
     if (!control->children().empty()) {
       for (auto at = widgets_.constBegin(); at != widgets_.constEnd(); ++at)
@@ -117,42 +74,56 @@ void Canvas::showChanges(const std::vector<Control*>& changed) {
 void Canvas::paintEvent(QPaintEvent* event) {
   if (form_ == nullptr) return;
   QPainter painter(this);
-  painter.fillRect(event->rect(), colourOf(form_->BackColor));
   painter.setClipRegion(event->region());
-  drawControls(painter, *form_, event->region());
+  drawForm(painter, *form_, event->region());
+  if (form_->kind() != FormKind::Child) return;
+  QtPainter through(painter);
+  drawFrameEdge(through, *form_);
 }
 
 Control* Canvas::controlAt(QPointF place) const {
   return form_->controlAt(place.x() * kTwipsPerPixel, place.y() * kTwipsPerPixel);
 }
 
+namespace {
+
+Spot spotOf(const QMouseEvent& event) {
+  return {event.position().x() * kTwipsPerPixel, event.position().y() * kTwipsPerPixel};
+}
+
+/// A gesture that a script makes by its name.
+bool isNamed(const QMouseEvent& event) {
+  return event.source() == Qt::MouseEventSynthesizedByApplication;
+}
+
+}  // namespace
+
+void Canvas::press(const QMouseEvent& event, bool second) {
+  if (form_ != nullptr && event.button() == Qt::LeftButton)
+    desk().hand.down(*form_, spotOf(event), second, isNamed(event));
+}
+
 void Canvas::mousePressEvent(QMouseEvent* event) {
-  if (form_ == nullptr || event->button() != Qt::LeftButton) return;
-  pressed_ = controlAt(event->position());
-  gesture::press(*form_, pressed_);
+  press(*event, false);
 }
 
 void Canvas::mouseDoubleClickEvent(QMouseEvent* event) {
-  if (form_ == nullptr || event->button() != Qt::LeftButton) return;
-  pressed_ = controlAt(event->position());
-  gesture::pressAgain(*form_, pressed_);
+  press(*event, true);
 }
 
 void Canvas::mouseReleaseEvent(QMouseEvent* event) {
-  if (form_ == nullptr || event->button() != Qt::LeftButton) return;
-  Control* control = pressed_;
-  pressed_ = nullptr;
-  gesture::release(*form_, control, controlAt(event->position()) == control);
+  if (form_ != nullptr && event->button() == Qt::LeftButton && desk().hand.heldForm() == form_)
+    desk().hand.up(spotOf(*event));
 }
 
 void Canvas::mouseMoveEvent(QMouseEvent* event) {
   if (form_ == nullptr) return;
-  Control* control = controlAt(event->position());
+  const Control* control = controlAt(event->position());
   if (control != pointedAt_) {
     pointedAt_ = control;
     showPointer(control);
   }
-  gesture::move(*form_, control);
+  desk().hand.move(form_, spotOf(*event));
 }
 
 void Canvas::showPointer(const Control* control) {
@@ -165,30 +136,66 @@ void Canvas::showPointer(const Control* control) {
   setCursor(QCursor(spriteOf(control->MouseIcon, kPointerSize, devicePixelRatioF()), kHotSpot, kHotSpot));
 }
 
-void Canvas::keyPressEvent(QKeyEvent* event) {
-  Control* control = desk().focused();
-  const int code = keyCodeOf(event->key());
-  // A shortcut that a field has no use for ends up here, and is no letter.
-  const bool shortcut = (event->modifiers() & (Qt::ControlModifier | Qt::AltModifier)) != 0;
-  if (form_ == nullptr || control == nullptr || &control->form() != form_ || code == 0 || shortcut) {
-    QWidget::keyPressEvent(event);
-    return;
+bool Canvas::event(QEvent* event) {
+  switch (event->type()) {
+    case QEvent::Leave:
+      pointedAt_ = nullptr;
+      break;
+    case QEvent::KeyPress:  // before the toolkit takes Tab for itself
+      if (desk().hand.key(modelKeyOf(static_cast<QKeyEvent&>(*event)))) return true;
+      break;
+    case QEvent::ToolTip: {
+      if (form_ == nullptr) return true;
+      const auto* help = static_cast<QHelpEvent*>(event);
+      const Control* control = controlAt(help->pos());
+      if (control == nullptr || control->ToolTipText.get().empty()) {
+        QToolTip::hideText();
+      } else {
+        QToolTip::showText(help->globalPos(), QString::fromStdString(control->ToolTipText.get()), this,
+                           pixelsOf(control->area()).toAlignedRect());
+      }
+      return true;
+    }
+    default:
+      break;
   }
-  gesture::keyDown(*control, code);
+  return QWidget::event(event);
 }
 
-bool Canvas::event(QEvent* event) {
-  if (event->type() == QEvent::Leave) pointedAt_ = nullptr;
-  if (event->type() != QEvent::ToolTip || form_ == nullptr) return QWidget::event(event);
-  const auto* help = static_cast<QHelpEvent*>(event);
-  const Control* control = controlAt(help->pos());
-  if (control == nullptr || control->ToolTipText.get().empty()) {
-    QToolTip::hideText();
-  } else {
-    QToolTip::showText(help->globalPos(), QString::fromStdString(control->ToolTipText.get()), this,
-                       pixelsOf(control->area()).toAlignedRect());
+Control* Canvas::fieldOf(const QObject* widget) const {
+  for (auto at = widgets_.constBegin(); at != widgets_.constEnd(); ++at) {
+    if (at.value() == widget || at.value() == widget->parent()) return const_cast<Control*>(at.key());
   }
-  return true;
+  return nullptr;
+}
+
+bool Canvas::eventFilter(QObject* watched, QEvent* event) {
+  Control* field = form_ != nullptr ? fieldOf(watched) : nullptr;
+  return field != nullptr && fieldEvent(*field, *event);
+}
+
+bool Canvas::fieldEvent(Control& field, QEvent& event) {
+  Hand& hand = desk().hand;
+  switch (event.type()) {
+    case QEvent::MouseButtonPress:
+    case QEvent::MouseButtonDblClick: {
+      const auto& mouse = static_cast<QMouseEvent&>(event);
+      if (mouse.button() != Qt::LeftButton) return false;
+      swallowing_ = !hand.downOnField(field, event.type() == QEvent::MouseButtonDblClick, isNamed(mouse));
+      return swallowing_;
+    }
+    case QEvent::MouseButtonRelease:
+      if (std::exchange(swallowing_, false)) return true;
+      hand.upFromField();
+      return false;
+    case QEvent::KeyPress:
+      // A list that has dropped down keeps its keys until it is closed.
+      if (auto* combo = qobject_cast<QComboBox*>(widgetOf(field)); combo != nullptr && dropsDown(*combo, event))
+        return false;
+      return fieldKey(field, *widgetOf(field), static_cast<QKeyEvent&>(event));
+    default:
+      return false;
+  }
 }
 
 }  // namespace zelvs

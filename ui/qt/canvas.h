@@ -1,16 +1,15 @@
 #pragma once
 
 #include <QHash>
-#include <QRect>
 #include <QWidget>
-#include <vector>
 
+#include "ui/dirtyPlaces.h"
 #include "ui/form.h"
 
 namespace zelvs {
 
-/// The inside of one form. It paints labels, pictures, lines and shapes itself and holds a widget only for what a
-/// person types or picks in. What the mouse does here becomes gestures.
+/// The inside of one form. It draws what the model draws and holds a widget only for what a person types or picks in.
+/// What mouse and keyboard do here goes to the model's hand.
 class Canvas final : public QWidget {
   Q_OBJECT
  public:
@@ -24,10 +23,10 @@ class Canvas final : public QWidget {
   void showChanges(const std::vector<Control*>& changed);
   /// The size of the form's inside.
   void fitForm();
-  /// The Tab key follows the look: called when the form is shown, since its controls may have moved.
-  void setTabOrderAsSeen();
   /// The widget that stands for a control, or null when the canvas paints it.
   QWidget* widgetOf(const Control& control) const { return widgets_.value(&control); }
+
+  bool eventFilter(QObject* watched, QEvent* event) override;
 
  protected:
   void paintEvent(QPaintEvent* event) override;
@@ -35,20 +34,20 @@ class Canvas final : public QWidget {
   void mouseReleaseEvent(QMouseEvent* event) override;
   void mouseDoubleClickEvent(QMouseEvent* event) override;
   void mouseMoveEvent(QMouseEvent* event) override;
-  void keyPressEvent(QKeyEvent* event) override;
   bool event(QEvent* event) override;
 
  private:
   Control* controlAt(QPointF place) const;
-  /// What the control takes of the canvas, null when it is hidden.
-  QRect placeOf(const Control& control) const;
-  void markDirty(const Control& control);
+  void press(const QMouseEvent& event, bool second);
   void showPointer(const Control* control);
+  /// True when the field is not to see the event.
+  bool fieldEvent(Control& field, QEvent& event);
+  Control* fieldOf(const QObject* widget) const;
 
   Form* form_;
-  Control* pressed_ = nullptr;
   const Control* pointedAt_ = nullptr;
-  QHash<const Control*, QRect> painted_;
+  bool swallowing_ = false;  // a press that no field saw: nor its release
+  DirtyPlaces dirty_;
   QHash<const Control*, QWidget*> widgets_;
 };
 

@@ -1,23 +1,38 @@
 #include "ui/qt/desktopScript.h"
 
 #include <QApplication>
+#include <QAbstractItemView>
 #include <QComboBox>
 #include <QKeyEvent>
 #include <QListWidget>
 #include <QMouseEvent>
 #include <QPainter>
 #include <QPixmap>
+#include <QPointer>
 #include <QTabBar>
 #include <QTemporaryFile>
+#include <QWindow>
 #include <cstdio>
 #include <optional>
 
 #include "ui/desk.h"
-#include "ui/qt/drawing.h"
+#include "ui/listRows.h"
 #include "ui/qt/keys.h"
+#include "ui/qt/qtPainter.h"
 #include "ui/qt/qtPlatform.h"
 #include "ui/qt/windows.h"
+#include "ui/reach.h"
 #include "ui/view.h"
+#include "ui/windowFrame.h"
+
+// The doors by which the toolkit's own tests let events in, as if the window system had sent them.
+QT_BEGIN_NAMESPACE
+Q_GUI_EXPORT void qt_handleMouseEvent(QWindow* window, const QPointF& local, const QPointF& global,
+                                      Qt::MouseButtons state, Qt::MouseButton button, QEvent::Type type,
+                                      Qt::KeyboardModifiers mods, int timestamp);
+Q_GUI_EXPORT void qt_handleKeyEvent(QWindow* window, QEvent::Type type, int key, Qt::KeyboardModifiers mods,
+                                    const QString& text, bool autorep, ushort count);
+QT_END_NAMESPACE
 
 namespace zelvs {
 
@@ -28,9 +43,11 @@ class WindowedScriptPlatform final : public ScriptedPlatform {
   Screen screen() override { return screenOfQt(); }
 };
 
+/// A gesture that is made by its name: it goes straight to the widget, and nothing interrupts it.
 void send(QWidget& widget, QEvent::Type type, QPointF place, bool down) {
-  QMouseEvent event(type, place, widget.mapToGlobal(place), type == QEvent::MouseMove ? Qt::NoButton : Qt::LeftButton,
-                    down ? Qt::LeftButton : Qt::NoButton, Qt::NoModifier);
+  const QPointF global = widget.mapToGlobal(place);
+  QMouseEvent event(type, place, place, global, type == QEvent::MouseMove ? Qt::NoButton : Qt::LeftButton,
+                    down ? Qt::LeftButton : Qt::NoButton, Qt::NoModifier, Qt::MouseEventSynthesizedByApplication);
   QApplication::sendEvent(&widget, &event);
 }
 
@@ -44,6 +61,11 @@ class WindowedHands final : public Hands {
   }
 
   std::string release(Form& form, Control* control) override {
+    // The press may be another one's by now: each that was made by its name waits for its own release.
+    const bool field = control != nullptr && widgetOf(*control) != nullptr;
+    if (!field && !(desk().hand.heldForm() == &form && desk().hand.heldControl() == control)) {
+      return gesture::release(form, control);
+    }
     return atPlace(form, control,
                    [](QWidget& widget, QPointF place) { send(widget, QEvent::MouseButtonRelease, place, false); });
   }
@@ -119,6 +141,54 @@ class WindowedHands final : public Hands {
     return {};
   }
 
+  std::optional<Point> placeOf(Form& form, Control* control, std::optional<int> row) override {
+    settle();
+    QWidget* widget = control != nullptr ? widgetOf(*control) : nullptr;
+    if (widget == nullptr) {
+      const Area area = control != nullptr ? control->area() : Area{0, 0, form.clientWidth(), form.clientHeight()};
+      return onScreen(*windows_.canvasOf(form), zelvs::pixelsOf(area).center());
+    }
+    if (!row) return onScreen(*widget, QPointF(widget->rect().center()));
+    if (*row < 0 || *row >= rowCountOf(*control)) return std::nullopt;
+    if (auto* tabs = qobject_cast<QTabBar*>(widget)) return onScreen(*tabs, QPointF(tabs->tabRect(*row).center()));
+    auto* combo = qobject_cast<QComboBox*>(widget);
+    auto* list = combo != nullptr ? combo->view() : qobject_cast<QAbstractItemView*>(widget);
+    const QModelIndex index = list->model()->index(*row, 0);
+    list->scrollTo(index);
+    return onScreen(*list->viewport(), QPointF(list->visualRect(index).center()));
+  }
+
+  void handMove(Point place) override {
+    place_ = QPointF(place.x, place.y);
+    handEvent(QEvent::MouseMove);
+  }
+
+  void handDown() override {
+    buttons_ = Qt::LeftButton;
+    handEvent(QEvent::MouseButtonPress);
+  }
+
+  void handUp() override {
+    buttons_ = Qt::NoButton;
+    handEvent(QEvent::MouseButtonRelease);
+  }
+
+  void handKey(const Key& key) override {
+    settle();
+    QWindow* window = QGuiApplication::focusWindow();
+    if (window == nullptr) window = windows_.frame()->windowHandle();
+    Qt::KeyboardModifiers modifiers;
+    modifiers.setFlag(Qt::ControlModifier, key.control);
+    modifiers.setFlag(Qt::AltModifier, key.alt);
+    modifiers.setFlag(Qt::ShiftModifier, key.shift);
+    const QString text = key.character != 0 ? QString::fromUcs4(&key.character, 1) : QString();
+    const bool back = key.code == key::kTab && key.shift;
+    const int code = back ? Qt::Key_Backtab : key.code != 0 ? qtKeyOf(key.code) : Qt::Key_unknown;
+    qt_handleKeyEvent(window, QEvent::KeyPress, code, modifiers, text, false, 1);
+    qt_handleKeyEvent(window, QEvent::KeyRelease, code, modifiers, text, false, 1);
+    settle();
+  }
+
   std::string screenshot(Form* form, const std::string& file) override {
     settle();
     const QPixmap picture = form == nullptr                    ? wholeScreen()
@@ -128,6 +198,53 @@ class WindowedHands final : public Hands {
   }
 
  private:
+  static Point onScreen(const QWidget& widget, QPointF place) {
+    const QPoint global = widget.mapToGlobal(place).toPoint();
+    return {global.x(), global.y()};
+  }
+
+  /// The mouse as the window system tells of it. What it does goes to the window in front; over a caption bar, which no
+  /// window system draws off-screen, straight to the model.
+  void handEvent(QEvent::Type type) {
+    settle();
+    const Seen seen = windowAt(place_.x() * kTwipsPerPixel, place_.y() * kTwipsPerPixel);
+    const bool caption = seen.form != nullptr && seen.form->kind() == FormKind::Window &&
+                         framePartAt(*seen.form, seen.spot) != FramePart::Inside;
+    QWidget* popup = QApplication::activePopupWidget();
+    if (popup == nullptr && (caption || onCaption_)) {
+      captionEvent(type, seen);
+    } else {
+      QWidget* target = popup != nullptr ? popup : seen.form == nullptr ? nullptr : windows_.windowOf(*seen.form)->window();
+      // While a button is down the window that took the press goes on getting everything.
+      if (type == QEvent::MouseButtonPress) grabber_ = target;
+      if (type != QEvent::MouseButtonPress && grabber_ != nullptr && grabber_->isVisible()) target = grabber_;
+      if (target != nullptr && target->windowHandle() != nullptr) {
+        constexpr int kLaterThanTheStart = 10000;
+        const Qt::MouseButton button = type == QEvent::MouseMove ? Qt::NoButton : Qt::LeftButton;
+        qt_handleMouseEvent(target->windowHandle(), target->mapFromGlobal(place_), place_, buttons_, button, type,
+                            Qt::NoModifier, static_cast<int>(desk().clock.now()) + kLaterThanTheStart);
+      }
+      if (type == QEvent::MouseButtonRelease) grabber_ = nullptr;
+    }
+    settle();
+  }
+
+  void captionEvent(QEvent::Type type, const Seen& seen) {
+    Hand& hand = desk().hand;
+    const Form* held = hand.heldForm();
+    const Spot spot = held != nullptr ? insideOf(*held, place_.x() * kTwipsPerPixel, place_.y() * kTwipsPerPixel)
+                                      : seen.spot;
+    if (type == QEvent::MouseButtonPress) {
+      onCaption_ = true;
+      hand.down(*seen.form, spot, false);
+    } else if (type == QEvent::MouseMove) {
+      hand.move(held != nullptr ? const_cast<Form*>(held) : seen.form, spot);
+    } else {
+      onCaption_ = false;
+      hand.up(spot);
+    }
+  }
+
   static std::string noRow(const Control& control, int row) {
     return control.fullName() + " has no row " + std::to_string(row);
   }
@@ -144,25 +261,6 @@ class WindowedHands final : public Hands {
     return canvas == nullptr ? nullptr : canvas->widgetOf(control);
   }
 
-  /// A place of the form's inside, in twips, where the control is in front.
-  static std::optional<QPointF> freePlace(const Form& form, const Control* control) {
-    constexpr int kGrid = 8;
-    const Area area = control != nullptr ? control->area() : Area{0, 0, form.clientWidth(), form.clientHeight()};
-    const auto at = [&](int x, int y) {
-      return QPointF(area.left + area.width * x / kGrid, area.top + area.height * y / kGrid);
-    };
-    // The middle first, then the rest of a grid.
-    QPointF middle = at(kGrid / 2, kGrid / 2);
-    if (form.controlAt(middle.x(), middle.y()) == control) return middle;
-    for (int y = 1; y < kGrid; ++y) {
-      for (int x = 1; x < kGrid; ++x) {
-        const QPointF place = at(x, y);
-        if (form.controlAt(place.x(), place.y()) == control) return place;
-      }
-    }
-    return std::nullopt;
-  }
-
   template <class Action>
   std::string atPlace(Form& form, Control* control, Action action) {
     settle();
@@ -175,7 +273,7 @@ class WindowedHands final : public Hands {
     }
     const auto place = freePlace(form, control);
     if (!place) return (control != nullptr ? control->fullName() : form.name()) + " is covered";
-    action(*canvas, *place / kTwipsPerPixel);
+    action(*canvas, QPointF(place->x, place->y) / kTwipsPerPixel);
     return {};
   }
 
@@ -189,41 +287,48 @@ class WindowedHands final : public Hands {
     return {};
   }
 
-  /// A window as a desk shows it. Off-screen nobody draws its caption bar: a plain one stands in.
+  /// A window as a desk shows it. Off-screen nobody draws its caption bar: one like the children's stands in.
   static QPixmap withCaption(const Form& form, QWidget& window) {
     const QPixmap inside = window.grab();
-    if (form.border() == Border::None || QGuiApplication::platformName() != "offscreen") return inside;
-    const int bar = qRound(kCaptionHeight / kTwipsPerPixel);
+    const int bar = captionOf(form);
+    if (bar == 0) return inside;
     QPixmap whole(inside.width(), inside.height() + qRound(bar * inside.devicePixelRatio()));
     whole.setDevicePixelRatio(inside.devicePixelRatio());
-    whole.fill(QApplication::palette().color(QPalette::Highlight));
     QPainter painter(&whole);
-    painter.setPen(Qt::white);
-    painter.setFont(fontOf(9, true));
-    painter.drawText(QRect(0, 0, window.width(), bar), Qt::AlignCenter, window.windowTitle());
+    QtPainter through(painter);
+    drawCaption(through, form, desk().active() == &form);
     painter.drawPixmap(0, bar, inside);
     return whole;
   }
 
+  /// In pixels; 0 where the desktop draws the bar, or there is none.
+  static int captionOf(const Form& form) {
+    const bool drawn = form.border() != Border::None && QGuiApplication::platformName() == "offscreen";
+    return drawn ? qRound(kCaptionHeight / kTwipsPerPixel) : 0;
+  }
+
   QPixmap wholeScreen() const {
-    QMainWindow* frame = windows_.frame();
     const Screen screen = screenOfQt();
-    const qreal ratio = frame->devicePixelRatioF();
+    const qreal ratio = windows_.frame()->devicePixelRatioF();
     QPixmap picture((QSizeF(screen.width, screen.height) * ratio).toSize());
     picture.setDevicePixelRatio(ratio);
     picture.fill(colourOf(0x604020));
     QPainter painter(&picture);
-    painter.drawPixmap(frame->pos(), frame->grab());
     const std::vector<Form*>& order = desk().forms();
     for (auto at = order.rbegin(); at != order.rend(); ++at) {
-      if ((*at)->kind() != FormKind::Window || !(*at)->visible()) continue;
+      if ((*at)->kind() == FormKind::Child || !(*at)->visible()) continue;
       QWidget* window = windows_.windowOf(**at);
-      painter.drawPixmap(window->pos(), withCaption(**at, *window));
+      const QPoint inside = window->geometry().topLeft();
+      painter.drawPixmap(inside - QPoint(0, captionOf(**at)), withCaption(**at, *window));
     }
     return picture;
   }
 
   Windows& windows_;
+  QPointF place_;
+  Qt::MouseButtons buttons_;
+  QPointer<QWidget> grabber_;
+  bool onCaption_ = false;
 };
 
 /// Off-screen there is no window manager and no session, which Qt tells again and again; that is known.

@@ -1,5 +1,6 @@
 #include "ui/qt/hosted.h"
 
+#include <QAbstractItemView>
 #include <QApplication>
 #include <QCheckBox>
 #include <QClipboard>
@@ -10,6 +11,7 @@
 #include <QPushButton>
 #include <QRadioButton>
 #include <QSignalBlocker>
+#include <QStyledItemDelegate>
 #include <QTabBar>
 #include <algorithm>
 #include <cstdlib>
@@ -18,33 +20,14 @@
 #include "ui/controls.h"
 #include "ui/desk.h"
 #include "ui/gesture.h"
-#include "ui/qt/drawing.h"
+#include "ui/keyboard.h"
+#include "ui/listRows.h"
 #include "ui/qt/keys.h"
+#include "ui/qt/qtPainter.h"
 
 namespace zelvs {
 
 namespace {
-
-/// The focus that the window system gives a widget is the user's turning to its control.
-template <class Widget>
-class Hosted : public Widget {
- public:
-  Hosted(Control& control, QWidget* canvas) : Widget(canvas), control_(control) {}
-
- protected:
-  Control& control() const { return control_; }
-
-  void focusInEvent(QFocusEvent* event) override {
-    Widget::focusInEvent(event);
-    const auto reason = event->reason();
-    if (reason == Qt::MouseFocusReason || reason == Qt::TabFocusReason || reason == Qt::BacktabFocusReason) {
-      gesture::focus(control_);
-    }
-  }
-
- private:
-  Control& control_;
-};
 
 void showText(const TextBox& text, QLineEdit& field) {
   const QSignalBlocker quiet(field);
@@ -60,34 +43,18 @@ void showText(const TextBox& text, QLineEdit& field) {
 }
 
 /// A field whose every edit is made by the model: the widget shows text and caret and passes the keys on.
-class Field final : public Hosted<QLineEdit> {
+class Field final : public QLineEdit {
  public:
-  Field(Control& control, QWidget* canvas) : Hosted(control, canvas) {
+  Field(TextBox& text, QWidget* canvas) : QLineEdit(canvas), text_(text) {
     // What comes by no key, an input method's text for one, would be put back: digits are typed plainly here.
     setAttribute(Qt::WA_InputMethodEnabled, false);
     setContextMenuPolicy(Qt::NoContextMenu);
     setAcceptDrops(false);
     // What the widget has cut, undone or deleted by itself is put back.
-    connect(this, &QLineEdit::textEdited, this, [this] { showText(static_cast<TextBox&>(this->control()), *this); });
+    connect(this, &QLineEdit::textEdited, this, [this] { showText(text_, *this); });
   }
 
  protected:
-  void keyPressEvent(QKeyEvent* event) override {
-    if (event->matches(QKeySequence::Paste)) {
-      typeAll(QApplication::clipboard()->text());
-      return;
-    }
-    const bool plain = (event->modifiers() & (Qt::ControlModifier | Qt::AltModifier)) == 0;
-    const QString text = event->text();
-    if (plain && !text.isEmpty() && text[0].isPrint()) {
-      typeAll(text);
-    } else if (plain && keyCodeOf(event->key()) != 0) {
-      gesture::keyDown(control(), keyCodeOf(event->key()));
-    } else {
-      QLineEdit::keyPressEvent(event);
-    }
-  }
-
   void mousePressEvent(QMouseEvent* event) override {
     QLineEdit::mousePressEvent(event);
     pressedAt_ = cursorPositionAt(event->pos());
@@ -97,84 +64,66 @@ class Field final : public Hosted<QLineEdit> {
     QLineEdit::mouseReleaseEvent(event);
     // The widget's own caret may be the model's again already: the focus that the press brought has moved it.
     const int end = cursorPositionAt(event->pos());
-    gesture::placeCaret(static_cast<TextBox&>(control()), std::min(pressedAt_, end), std::abs(end - pressedAt_));
+    gesture::placeCaret(text_, std::min(pressedAt_, end), std::abs(end - pressedAt_));
   }
 
  private:
+  TextBox& text_;
   int pressedAt_ = 0;
-
-  void typeAll(const QString& text) {
-    for (const char32_t character : charactersOf(text.toStdString()))
-      gesture::type(control(), character);
-  }
 };
 
+/// A button of which every place can be clicked, as of every other control, and not its text alone.
 template <class Button>
-class ClickButton final : public Hosted<Button> {
+class ClickButton final : public Button {
  public:
-  ClickButton(Control& control, QWidget* canvas) : Hosted<Button>(control, canvas) {
+  ClickButton(Control& control, QWidget* canvas) : Button(canvas) {
     QObject::connect(this, &Button::clicked, this, [&control] { gesture::click(control.form(), &control); });
   }
 
  protected:
-  void keyPressEvent(QKeyEvent* event) override {
-    const int code = keyCodeOf(event->key());
-    if (code == key::kEnter || code == key::kEscape) {
-      gesture::keyDown(this->control(), code);
-    } else {
-      Hosted<Button>::keyPressEvent(event);
-    }
-  }
+  bool hitButton(const QPoint& place) const override { return this->rect().contains(place); }
 };
 
-class DropDown final : public Hosted<QComboBox> {
+QWidget* dropDown(Control& control, QWidget* canvas) {
+  auto* combo = new QComboBox(canvas);
+  QObject::connect(combo, &QComboBox::activated, combo, [&control](int row) { gesture::pick(control, row); });
+  return combo;
+}
+
+/// Rows as high as the model counts them.
+class RowDelegate final : public QStyledItemDelegate {
  public:
-  DropDown(Control& control, QWidget* canvas) : Hosted(control, canvas) {
-    connect(this, &QComboBox::activated, this, [&control](int row) { gesture::pick(control, row); });
+  RowDelegate(const Control& list, QObject* parent) : QStyledItemDelegate(parent), list_(list) {}
+  QSize sizeHint(const QStyleOptionViewItem& option, const QModelIndex& index) const override {
+    return {QStyledItemDelegate::sizeHint(option, index).width(), qRound(rowHeightOf(list_) / kTwipsPerPixel)};
   }
+
+ private:
+  const Control& list_;
 };
 
-class OpenList final : public Hosted<QListWidget> {
+class OpenList final : public QListWidget {
  public:
-  OpenList(Control& control, QWidget* canvas) : Hosted(control, canvas) {
-    connect(this, &QListWidget::itemClicked, this,
-            [&control](QListWidgetItem* item) { gesture::pick(control, item->listWidget()->row(item)); });
-    connect(this, &QListWidget::itemDoubleClicked, this, [&control] {
-      if (control.onDblClick) gesture::pressAgain(control.form(), &control);
+  OpenList(Control& control, QWidget* canvas) : QListWidget(canvas) {
+    setItemDelegate(new RowDelegate(control, this));
+    connect(this, &QListWidget::itemClicked, this, [&control](QListWidgetItem* item) {
+      gesture::pick(control, item->listWidget()->row(item));
     });
   }
 
  protected:
-  void keyPressEvent(QKeyEvent* event) override {
-    const int code = keyCodeOf(event->key());
-    const bool list = control().kind() == ControlKind::ListBox;
-    const bool arrow = code == key::kUp || code == key::kDown;
-    if (code == key::kEscape || code == key::kEnter || (arrow && !list)) {
-      gesture::keyDown(control(), code);
-      return;
-    }
-    // Everything else (a letter that a row begins with, a page) is the widget's own way to a row.
-    QListWidget::keyPressEvent(event);
-    if (list) {
-      if (currentRow() >= 0) gesture::pick(control(), currentRow());
-    } else {
-      static_cast<ComboBox&>(control()).Marked = currentRow();
-    }
-  }
-
   /// Exactly one row is selected, whatever keys are held: a list cannot take its selection back.
   QItemSelectionModel::SelectionFlags selectionCommand(const QModelIndex&, const QEvent*) const override {
     return QItemSelectionModel::ClearAndSelect;
   }
 };
 
-class Tabs final : public Hosted<QTabBar> {
- public:
-  Tabs(Control& control, QWidget* canvas) : Hosted(control, canvas) {
-    setExpanding(false);
-    connect(this, &QTabBar::currentChanged, this, [&control](int tab) { gesture::pick(control, tab); });
-  }
-};
+QWidget* tabBar(Control& control, QWidget* canvas) {
+  auto* tabs = new QTabBar(canvas);
+  tabs->setExpanding(false);
+  QObject::connect(tabs, &QTabBar::currentChanged, tabs, [&control](int tab) { gesture::pick(control, tab); });
+  return tabs;
+}
 
 QStringList rowsOf(const ListControl& list) {
   QStringList rows;
@@ -222,7 +171,7 @@ void showTabs(const TabStrip& tabs, QTabBar& bar) {
 }
 
 bool unrolled(const Control& control) {
-  return control.kind() == ControlKind::ListBox || static_cast<const ComboBox&>(control).Unrolled;
+  return control.kind() == ControlKind::ListBox || isOpenList(&control);
 }
 
 }  // namespace
@@ -230,7 +179,7 @@ bool unrolled(const Control& control) {
 QWidget* hostedWidget(Control& control, QWidget* canvas) {
   switch (control.kind()) {
     case ControlKind::TextBox:
-      return new Field(control, canvas);
+      return new Field(static_cast<TextBox&>(control), canvas);
     case ControlKind::CommandButton:
       return new ClickButton<QPushButton>(control, canvas);
     case ControlKind::CheckBox:
@@ -242,10 +191,9 @@ QWidget* hostedWidget(Control& control, QWidget* canvas) {
     }
     case ControlKind::ListBox:
     case ControlKind::ComboBox:
-      if (unrolled(control)) return new OpenList(control, canvas);
-      return new DropDown(control, canvas);
+      return unrolled(control) ? new OpenList(control, canvas) : dropDown(control, canvas);
     case ControlKind::TabStrip:
-      return new Tabs(control, canvas);
+      return tabBar(control, canvas);
     default:
       return nullptr;
   }
@@ -254,7 +202,7 @@ QWidget* hostedWidget(Control& control, QWidget* canvas) {
 void showHosted(Control& control, QWidget& widget) {
   widget.setFont(fontOf(control.FontSize, control.FontBold));
   widget.setToolTip(QString::fromStdString(control.ToolTipText.get()));
-  // The toolkit would hand the focus to the next control, and the same key would go on there.
+  // The toolkit would hand the focus to the next widget.
   if (!(control.usable() && control.shown()) && widget.hasFocus())
     widget.parentWidget()->setFocus(Qt::OtherFocusReason);
   widget.setEnabled(control.usable());
@@ -267,7 +215,7 @@ void showHosted(Control& control, QWidget& widget) {
     case ControlKind::CommandButton: {
       auto& button = static_cast<QPushButton&>(widget);
       button.setText(caption);
-      button.setDefault(static_cast<CommandButton&>(control).Default);
+      button.setDefault(answersEnter(control.form()) == &control);
       break;
     }
     case ControlKind::CheckBox: {
@@ -303,7 +251,26 @@ void showHosted(Control& control, QWidget& widget) {
   const bool shown = control.shown();
   if (shown && !widget.isVisibleTo(widget.parentWidget())) widget.raise();
   widget.setVisible(shown);
-  if (shown && desk().focused() == &control && !widget.hasFocus()) widget.setFocus(Qt::OtherFocusReason);
+}
+
+bool fieldKey(Control& field, QWidget& widget, QKeyEvent& key) {
+  if (field.kind() == ControlKind::TextBox && key.matches(QKeySequence::Copy)) {
+    static_cast<QLineEdit&>(widget).copy();
+    return true;
+  }
+  if (field.kind() == ControlKind::TextBox && key.matches(QKeySequence::Paste)) {
+    for (const char32_t character : charactersOf(QApplication::clipboard()->text().toStdString())) {
+      if (character >= U' ') gesture::type(field, character);
+    }
+    return true;
+  }
+  return desk().hand.key(modelKeyOf(key)) || field.kind() == ControlKind::TextBox;
+}
+
+bool dropsDown(const QComboBox& combo, const QEvent& event) {
+  if (combo.view()->isVisible()) return true;
+  const auto& key = static_cast<const QKeyEvent&>(event);
+  return key.key() == Qt::Key_F4 || key.key() == Qt::Key_Space || key.modifiers().testFlag(Qt::AltModifier);
 }
 
 }  // namespace zelvs

@@ -4,6 +4,9 @@
 
 #include "ui/control.h"
 
+class QComboBox;
+class QKeyEvent;
+
 namespace zelvs {
 
 /// The widget of a control that a person types or picks in, or null for one that the canvas paints. What is done to
@@ -11,5 +14,10 @@ namespace zelvs {
 QWidget* hostedWidget(Control& control, QWidget* canvas);
 /// Brings a widget up to date with its control.
 void showHosted(Control& control, QWidget& widget);
+
+/// A key for a field: the model's, but for copying, and pasted characters are typed. False when nobody has a use for it.
+bool fieldKey(Control& field, QWidget& widget, QKeyEvent& key);
+/// Whether the event opens the list of a combo box or goes to the open list.
+bool dropsDown(const QComboBox& combo, const QEvent& event);
 
 }  // namespace zelvs

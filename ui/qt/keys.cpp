@@ -1,7 +1,9 @@
 #include "ui/qt/keys.h"
 
+#include <QKeyEvent>
 #include <utility>
 
+#include "text/utf8.h"
 #include "ui/gesture.h"
 
 namespace zelvs {
@@ -13,7 +15,8 @@ constexpr std::pair<int, Qt::Key> kKeys[] = {
     {key::kEscape, Qt::Key_Escape},       {key::kSpace, Qt::Key_Space},   {key::kPageUp, Qt::Key_PageUp},
     {key::kPageDown, Qt::Key_PageDown},   {key::kEnd, Qt::Key_End},       {key::kHome, Qt::Key_Home},
     {key::kLeft, Qt::Key_Left},           {key::kUp, Qt::Key_Up},         {key::kRight, Qt::Key_Right},
-    {key::kDown, Qt::Key_Down},           {key::kDelete, Qt::Key_Delete},
+    {key::kDown, Qt::Key_Down},           {key::kDelete, Qt::Key_Delete}, {key::kTab, Qt::Key_Tab},
+    {key::kTab, Qt::Key_Backtab},         {key::kF1, Qt::Key_F1},
 };
 
 /// Digits and letters have one code on both sides.
@@ -37,6 +40,17 @@ Qt::Key qtKeyOf(int code) {
     if (known == code) return key;
   }
   return Qt::Key_unknown;
+}
+
+Key modelKeyOf(const QKeyEvent& event) {
+  Key key;
+  key.code = keyCodeOf(event.key());
+  key.control = event.modifiers().testFlag(Qt::ControlModifier);
+  key.alt = event.modifiers().testFlag(Qt::AltModifier);
+  key.shift = event.modifiers().testFlag(Qt::ShiftModifier) || event.key() == Qt::Key_Backtab;
+  const QString text = event.text();
+  if (!text.isEmpty() && text[0].isPrint()) key.character = charactersOf(text.toStdString()).front();
+  return key;
 }
 
 }  // namespace zelvs

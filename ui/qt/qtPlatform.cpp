@@ -3,6 +3,7 @@
 #include <QApplication>
 #include <QCursor>
 #include <QIcon>
+#include <QMainWindow>
 #include <QMessageBox>
 #include <QScopedValueRollback>
 #include <QScreen>
@@ -10,7 +11,7 @@
 
 #include "ui/desk.h"
 #include "ui/qt/accessibility.h"
-#include "ui/qt/drawing.h"
+#include "ui/qt/qtPainter.h"
 
 namespace zelvs {
 
@@ -76,12 +77,15 @@ void QtPlatform::yield() {
 bool QtPlatform::messageBox(const std::string& title, const std::string& text, MessageIcon icon,
                             MessageButtons buttons) {
   timersChanged();
-  // It belongs to the modal window that asks, which would be raised over a mere neighbour.
-  QWidget* modal = QApplication::activeModalWidget();
+  // It belongs to the modal window that asks, which would be raised over a mere neighbour, or to the frame.
+  QWidget* owner = QApplication::activeModalWidget();
+  for (QWidget* window : QApplication::topLevelWidgets()) {
+    if (owner == nullptr && qobject_cast<QMainWindow*>(window) != nullptr) owner = window;
+  }
   QMessageBox box(icon == MessageIcon::Question ? QMessageBox::Question : QMessageBox::Information,
                   QString::fromStdString(title), QString::fromStdString(text),
                   buttons == MessageButtons::Ok ? QMessageBox::Ok : QMessageBox::Ok | QMessageBox::Cancel,
-                  modal != nullptr ? modal : QApplication::activeWindow());
+                  owner);
   box.setWindowFlag(Qt::WindowStaysOnTopHint);  // the splash and the lesson do so too
   return box.exec() == QMessageBox::Ok;
 }

@@ -2,40 +2,38 @@
 
 #include <QApplication>
 #include <QCloseEvent>
+#include <QMouseEvent>
 #include <QScopedValueRollback>
 #include <QScreen>
 #include <QTimer>
 #include <QVBoxLayout>
+#include <algorithm>
 
 #include "ui/desk.h"
 #include "ui/gesture.h"
-#include "ui/qt/drawing.h"
+#include "ui/qt/qtPainter.h"
 
 namespace zelvs {
 
 namespace {
 
-/// A floating child counts from an edge that no window of ours has: it must not jump when it leaves the others.
-double edgeOf(const Form& form) {
-  return form.floating() ? kClientEdge : 0;
+double captionOf(const Form& form) {
+  return form.Height - form.clientHeight();
 }
 
-QPoint pixelPlace(const Form& form) {
-  return {qRound((form.Left - edgeOf(form)) / kTwipsPerPixel), qRound((form.Top - edgeOf(form)) / kTwipsPerPixel)};
-}
-
-/// The title bar is the child's own work, so that it looks alike with and without an area around it.
-Qt::WindowFlags childFlags(const Form& form) {
-  Qt::WindowFlags flags = Qt::SubWindow;
-  if (form.border() == Border::None) return flags | Qt::FramelessWindowHint;
-  flags |= Qt::CustomizeWindowHint | Qt::WindowTitleHint;
-  if (form.hasCloseBox()) flags |= Qt::WindowSystemMenuHint | Qt::WindowCloseButtonHint;
-  return flags;
+/// Where the inside of a window that stands by itself lies on the screen.
+QPoint insidePlace(const Form& form) {
+  return {qRound(form.Left / kTwipsPerPixel), qRound((form.Top + captionOf(form)) / kTwipsPerPixel)};
 }
 
 /// True when the window's size is the user's as well as the program's.
 bool sizable(const Form& form) {
   return form.kind() == FormKind::Window && form.border() == Border::Sizable;
+}
+
+/// Without a screen nobody draws caption bars: room is left for them, so that places are those of a desktop.
+bool offscreen() {
+  return QGuiApplication::platformName() == "offscreen";
 }
 
 /// A window made of nothing but its canvas.
@@ -49,9 +47,27 @@ class TopWindow final : public QWidget {
   }
 };
 
+Qt::WindowFlags flagsOf(const Form& form) {
+  Qt::WindowFlags flags = Qt::Dialog;
+  if (form.border() == Border::None) {
+    flags |= Qt::FramelessWindowHint;
+  } else {
+    flags |= Qt::CustomizeWindowHint | Qt::WindowTitleHint;
+    if (form.hasCloseBox()) flags |= Qt::WindowCloseButtonHint;
+  }
+  if (form.inFront()) flags |= Qt::WindowStaysOnTopHint;
+  return flags;
+}
+
 }  // namespace
 
-Windows::Windows() = default;
+Windows::Windows() {
+  QApplication::instance()->installEventFilter(this);
+  connect(qApp, &QGuiApplication::applicationStateChanged, this, [](Qt::ApplicationState state) {
+    // Another program, or a locked screen, has the mouse now.
+    if (state != Qt::ApplicationActive) desk().hand.lose();
+  });
+}
 
 Windows::~Windows() {
   // Top-level windows that the frame owns go with it.
@@ -72,11 +88,11 @@ QWidget* Windows::windowOf(const Form& form) const {
 void Windows::formLoaded(Form& form) {
   const QScopedValueRollback<bool> following(following_, true);
   auto* canvas = new Canvas(form);
-  QWidget* window = form.kind() == FormKind::Frame   ? makeFrame(form, canvas)
-                    : form.kind() == FormKind::Child ? makeChild(form, canvas)
+  QWidget* window = form.kind() == FormKind::Frame   ? makeFrame(canvas)
+                    : form.kind() == FormKind::Child ? new ChildWindow(form, canvas, area_->viewport())
                                                      : makeWindow(form, canvas);
   window->setWindowTitle(QString::fromStdString(form.Caption.get()));
-  window->installEventFilter(this);
+  window->setAttribute(Qt::WA_AlwaysShowToolTips);
   shown_.insert(&form, {canvas, window});
   place(form, {canvas, window});
   form.takeChanged();
@@ -84,92 +100,102 @@ void Windows::formLoaded(Form& form) {
   schedule();
 }
 
-QWidget* Windows::makeFrame(Form& /*form*/, Canvas* canvas) {
+QWidget* Windows::makeFrame(Canvas* canvas) {
   frame_ = new QMainWindow;
   auto* inside = new QWidget;
   auto* layout = new QVBoxLayout(inside);
   layout->setContentsMargins(0, 0, 0, 0);
   layout->setSpacing(0);
   layout->addWidget(canvas);
-  area_ = new QMdiArea;
-  area_->setHorizontalScrollBarPolicy(Qt::ScrollBarAsNeeded);
-  area_->setVerticalScrollBarPolicy(Qt::ScrollBarAsNeeded);
-  // The model decides who is active; closing the active window must not hand that to any other by itself.
-  area_->setOption(QMdiArea::DontMaximizeSubWindowOnActivation);
-  connect(area_, &QMdiArea::subWindowActivated, this, [this](QMdiSubWindow* window) {
-    Form* form = formOf(window);
-    if (form != nullptr && !following_) gesture::activate(*form);
-  });
+  area_ = new ClientArea(inside);
   layout->addWidget(area_, 1);
   frame_->setCentralWidget(inside);
   return frame_;
 }
 
-QWidget* Windows::makeChild(Form& form, Canvas* canvas) {
-  const Qt::WindowFlags flags = childFlags(form);
-  auto* window = new QMdiSubWindow(nullptr, flags);
-  window->setWidget(canvas);
-  window->setAttribute(Qt::WA_DeleteOnClose, false);
-  area_->addSubWindow(window, flags);
-  window->hide();
-  return window;
-}
-
 QWidget* Windows::makeWindow(Form& form, Canvas* canvas) {
-  Qt::WindowFlags flags = Qt::Dialog;
-  if (form.border() == Border::None) {
-    flags |= Qt::FramelessWindowHint;
-  } else {
-    flags |= Qt::CustomizeWindowHint | Qt::WindowTitleHint;
-    if (form.hasCloseBox()) flags |= Qt::WindowCloseButtonHint;
-  }
-  if (form.topmost()) flags |= Qt::WindowStaysOnTopHint;
-  return new TopWindow(canvas, frame_, flags, !sizable(form));
+  return new TopWindow(canvas, frame_, flagsOf(form), !sizable(form));
 }
 
-void Windows::takeHome(const Form& form, QMdiSubWindow* child) {
-  const bool inArea = child->mdiArea() != nullptr;
-  if (inArea != form.floating()) return;
-  if (inArea) {
-    // Beside the area, in the frame itself: what lies there is in front of all that the area holds.
-    area_->removeSubWindow(child);
-    child->setParent(frame_->centralWidget(), childFlags(form));
-  } else {
-    area_->addSubWindow(child, childFlags(form));
-  }
-  child->setVisible(form.visible());
-}
-
-void Windows::place(const Form& form, const Shown& shown) {
+void Windows::place(Form& form, const Shown& shown) {
   const QScopedValueRollback<bool> following(following_, true);
   shown.canvas->fitForm();
-  auto* child = qobject_cast<QMdiSubWindow*>(shown.window);
-  if (child != nullptr) takeHome(form, child);
-  if (form.kind() == FormKind::Frame) return;  // the user's own: the program never moves it
+  if (auto* child = qobject_cast<ChildWindow*>(shown.window)) {
+    placeChild(form, *child);
+  } else if (form.kind() == FormKind::Window) {
+    placeWindow(form, *shown.window);
+  } else {
+    placeChildren();  // the frame itself is the user's own: the program never moves it
+  }
+}
+
+void Windows::placeChild(const Form& form, ChildWindow& child) {
+  // Beside the client area, in the frame itself: what lies there is in front of all that the area holds.
+  QWidget* home = form.floating() ? frame_->centralWidget() : area_->viewport();
+  if (child.parentWidget() != home) {
+    child.setParent(home);
+    child.setVisible(form.visible());
+    stacked_.clear();
+    orderChanged();
+  }
+  child.fitForm();
+  const Form& frame = *desk().frame();
+  const QPoint place(qRound((form.Left - (form.floating() ? kClientEdge : frame.ScrollLeft.get())) / kTwipsPerPixel),
+                     qRound((form.Top - (form.floating() ? kClientEdge : frame.ScrollTop.get())) / kTwipsPerPixel));
+  if (child.pos() != place) child.move(place);
+}
+
+void Windows::placeWindow(const Form& form, QWidget& window) {
   // Where the user may draw at the window's edge the canvas follows the window, and not the other way round.
-  if (sizable(form)) shown.window->resize(shown.canvas->size());
-  if (shown.window->pos() != pixelPlace(form)) shown.window->move(pixelPlace(form));
-  if (child != nullptr) child->adjustSize();
+  const QSize size = sizable(form) ? shown_.value(&form).canvas->size() : window.size();
+  const QRect wanted(insidePlace(form), size);
+  if (window.geometry() != wanted) window.setGeometry(wanted);
+}
+
+void Windows::placeChildren() {
+  Form* frame = desk().frame();
+  if (frame == nullptr || area_ == nullptr) return;
+  area_->follow(*frame);
+  for (auto at = shown_.constBegin(); at != shown_.constEnd(); ++at) {
+    if (auto* child = qobject_cast<ChildWindow*>(at->window)) placeChild(*at.key(), *child);
+  }
+}
+
+void Windows::showFrame() {
+  const QRect screen = frame_->screen()->availableGeometry();
+  if (offscreen()) {
+    frame_->setGeometry(screen.adjusted(0, qRound(kCaptionHeight / kTwipsPerPixel), 0, 0));
+    frame_->show();
+    return;
+  }
+  // What it takes when the user has it smaller than the screen.
+  constexpr double kRestored = 0.8;
+  const QSize restored = (QSizeF(screen.size()) * kRestored).toSize();
+  frame_->setGeometry(QRect(screen.center() - QPoint(restored.width(), restored.height()) / 2, restored));
+  frame_->showMaximized();
+  // Where no window manager maximizes it, it fills the screen all the same.
+  constexpr int kManagersTime = 500;
+  QTimer::singleShot(kManagersTime, frame_, [this, screen] {
+    if (frame_->isMaximized() && frame_->width() < screen.width() * kRestored + 1) frame_->setGeometry(screen);
+  });
 }
 
 void Windows::formShown(Form& form) {
   const QScopedValueRollback<bool> following(following_, true);
   const Shown shown = shown_.value(&form);
   if (form.kind() == FormKind::Frame) {
-    // Sized first: where no window manager maximizes it, it fills the screen all the same.
-    frame_->setGeometry(frame_->screen()->availableGeometry());
-    frame_->showMaximized();
+    showFrame();
     return;
   }
   if (form.kind() == FormKind::Window) {
     shown.window->setWindowModality(form.modal() ? Qt::ApplicationModal : Qt::NonModal);
-    if (shown.window->windowFlags().testFlag(Qt::WindowStaysOnTopHint) != form.inFront())
-      shown.window->setWindowFlag(Qt::WindowStaysOnTopHint, form.inFront());
+    if (shown.window->windowFlags() != flagsOf(form)) shown.window->setWindowFlags(flagsOf(form));
   }
   place(form, shown);
-  shown.canvas->setTabOrderAsSeen();
   shown.canvas->show();
   shown.window->show();
+  stacked_.clear();  // a window that appears lies where the desktop puts it
+  orderChanged();
   // What changed while it was hidden has been left marked, and what is marked is not told of again.
   markChanged(changed_, form);
 }
@@ -177,6 +203,7 @@ void Windows::formShown(Form& form) {
 void Windows::formHidden(Form& form) {
   const QScopedValueRollback<bool> following(following_, true);
   if (QWidget* window = windowOf(form)) window->hide();
+  if (turnedTo_ == &form) turnedTo_ = nullptr;
 }
 
 void Windows::formUnloaded(Form& form) {
@@ -184,11 +211,12 @@ void Windows::formUnloaded(Form& form) {
   const Shown shown = shown_.take(&form);
   changed_.remove(&form);
   placed_.remove(&form);
+  stacked_.clear();
+  if (turnedTo_ == &form) turnedTo_ = nullptr;
   if (shown.window == nullptr) return;
   shown.canvas->forgetForm();
+  if (auto* child = qobject_cast<ChildWindow*>(shown.window)) child->forgetForm();
   shown.window->hide();
-  auto* child = qobject_cast<QMdiSubWindow*>(shown.window);
-  if (child != nullptr && child->mdiArea() != nullptr) area_->removeSubWindow(child);
   if (shown.window == frame_) {
     frame_ = nullptr;
     area_ = nullptr;
@@ -241,23 +269,36 @@ void Windows::flush() {
     // A hidden window is looked at as a whole when it is shown; its controls stay marked until then.
     if (form->visible()) shown.canvas->showChanges(form->takeChanged());
   }
+  if (area_ != nullptr && desk().frame() != nullptr) area_->follow(*desk().frame());
   if (std::exchange(orderChanged_, false)) stack();
+  turnKeyboard();
 }
 
 void Windows::stack() {
-  // Back to front, so that the last one raised is the front one.
-  const std::vector<Form*>& order = desk().forms();
-  for (auto at = order.rbegin(); at != order.rend(); ++at) {
-    QWidget* window = windowOf(**at);
-    if (window != nullptr && window != frame_ && (*at)->visible()) window->raise();
+  std::vector<Form*> order;
+  for (Form* form : desk().forms()) {
+    if (form->visible() && form->kind() != FormKind::Frame && windowOf(*form) != nullptr) order.push_back(form);
   }
+  // From the back on, those that lie as they should stay; the first one that does not is raised, and all before it.
+  const auto [moved, unused] = std::mismatch(order.rbegin(), order.rend(), stacked_.rbegin(), stacked_.rend());
+  for (auto at = moved; at != order.rend(); ++at)
+    windowOf(**at)->raise();
+  stacked_ = order;
+  for (const Form* form : order) {
+    if (form->kind() == FormKind::Child) windowOf(*form)->update();  // its caption bar tells who is active
+  }
+}
+
+void Windows::turnKeyboard() {
   const Form* active = desk().active();
-  if (active == nullptr || windowOf(*active) == nullptr) return;
-  if (auto* child = qobject_cast<QMdiSubWindow*>(windowOf(*active))) {
-    if (child->mdiArea() != nullptr) area_->setActiveSubWindow(child);
-  } else if (active->kind() == FormKind::Window) {
-    windowOf(*active)->activateWindow();
-  }
+  if (active == nullptr || canvasOf(*active) == nullptr) return;
+  if (active != turnedTo_ && active->kind() == FormKind::Window) windowOf(*active)->activateWindow();
+  turnedTo_ = active;
+  // One widget has the keyboard: the focused field's, or the canvas of the active window.
+  const Control* focused = desk().focused();
+  QWidget* field = focused != nullptr && &focused->form() == active ? canvasOf(*active)->widgetOf(*focused) : nullptr;
+  QWidget* target = field != nullptr ? field : canvasOf(*active);
+  if (QApplication::activePopupWidget() == nullptr && !target->hasFocus()) target->setFocus(Qt::OtherFocusReason);
 }
 
 Form* Windows::formOf(const QObject* window) const {
@@ -268,41 +309,73 @@ Form* Windows::formOf(const QObject* window) const {
 }
 
 void Windows::takePlace(Form& form, const QWidget& window) {
-  const QPoint place = window.pos();
-  if (place == pixelPlace(form)) return;
-  form.Left = place.x() * kTwipsPerPixel + edgeOf(form);
-  form.Top = place.y() * kTwipsPerPixel + edgeOf(form);
+  const QPoint place = window.geometry().topLeft();
+  if (place == insidePlace(form)) return;
+  form.Left = place.x() * kTwipsPerPixel;
+  form.Top = place.y() * kTwipsPerPixel - captionOf(form);
 }
 
 void Windows::takeSize(Form& form, const QWidget& window) {
+  const double caption = captionOf(form);
   form.Width = window.width() * kTwipsPerPixel;
-  form.Height = window.height() * kTwipsPerPixel + (form.Height - form.clientHeight());
+  form.Height = window.height() * kTwipsPerPixel + caption;
 }
 
 bool Windows::eventFilter(QObject* watched, QEvent* event) {
-  Form* form = formOf(watched);
-  if (form == nullptr) return false;
-  auto* window = static_cast<QWidget*>(watched);
+  if (!watched->isWidgetType()) return false;
+  watchHand(watched, event);
   switch (event->type()) {
     case QEvent::Close:
-      event->ignore();
-      if (!following_) gesture::close(*form);
+    case QEvent::Move:
+    case QEvent::Resize:
+    case QEvent::WindowActivate:
+    case QEvent::WindowStateChange: {
+      Form* form = formOf(watched);
+      return form != nullptr && windowEvent(*form, *static_cast<QWidget*>(watched), *event);
+    }
+    default:
+      return false;
+  }
+}
+
+bool Windows::windowEvent(Form& form, QWidget& window, QEvent& event) {
+  const bool child = form.kind() == FormKind::Child;
+  switch (event.type()) {
+    case QEvent::Close:
+      event.ignore();
+      if (!following_) gesture::close(form);
       return true;
     case QEvent::Move:
-      if (!following_ && form->visible() && !window->isMaximized()) takePlace(*form, *window);
+      if (!child && (form.kind() == FormKind::Frame || (!following_ && form.visible()))) takePlace(form, window);
       return false;
     case QEvent::Resize:
-      if (window == frame_ || (sizable(*form) && !following_)) takeSize(*form, *window);
-      return false;
-    case QEvent::MouseButtonPress:
-      // Outside its area nobody tells of a child that is taken by its title bar.
-      if (!following_ && form->floating()) gesture::activate(*form);
+      if (form.kind() == FormKind::Frame || (sizable(form) && !following_)) takeSize(form, window);
       return false;
     case QEvent::WindowActivate:
-      if (!following_ && form->kind() == FormKind::Window && form->visible()) gesture::activate(*form);
+      if (!following_ && form.kind() == FormKind::Window && form.visible()) gesture::activate(form);
+      return false;
+    case QEvent::WindowStateChange:
+      // A strip or a dialog has nothing to fill a screen with.
+      if (form.kind() == FormKind::Window && window.isMaximized()) window.showNormal();
       return false;
     default:
       return false;
+  }
+}
+
+void Windows::watchHand(QObject* watched, QEvent* event) {
+  Hand& hand = desk().hand;
+  if (!hand.holds()) return;
+  const bool move = event->type() == QEvent::MouseMove;
+  const bool release = event->type() == QEvent::MouseButtonRelease;
+  if (!move && !release) return;
+  const auto* mouse = static_cast<QMouseEvent*>(event);
+  const QWidget* held = windowOf(*hand.heldForm());
+  const bool elsewhere = held == nullptr || !(watched == held || held->isAncestorOf(static_cast<QWidget*>(watched)));
+  // The button is up, and nobody has told of it; or it went up over something that has not held it.
+  if ((move && !mouse->buttons().testFlag(Qt::LeftButton)) ||
+      (release && elsewhere && mouse->button() == Qt::LeftButton)) {
+    hand.lose();
   }
 }
 

@@ -2,19 +2,22 @@
 
 #include <QHash>
 #include <QMainWindow>
-#include <QMdiArea>
-#include <QMdiSubWindow>
 #include <QObject>
 #include <QSet>
+#include <vector>
 
 #include "ui/form.h"
 #include "ui/qt/canvas.h"
+#include "ui/qt/clientArea.h"
 #include "ui/view.h"
 
 namespace zelvs {
 
 /// The window of each loaded form, kept as the model says: shown, placed, stacked and painted once per return to the
 /// event loop. What the user does to a window itself (moving, closing, turning to it) goes back as gestures.
+///
+/// A window that stands by itself has a caption bar of the desktop's, of whatever height: its inside lies where the
+/// model has it, so that places mean the same on every desktop.
 class Windows final : public QObject, public View {
   Q_OBJECT
  public:
@@ -42,25 +45,32 @@ class Windows final : public QObject, public View {
  private:
   struct Shown {
     Canvas* canvas = nullptr;
-    QWidget* window = nullptr;  // main window, sub window of the frame, or the canvas's own top-level window
+    QWidget* window = nullptr;  // main window, child window, or the canvas's own top-level window
   };
   void markChanged(QSet<Form*>& forms, Form& form);
   void schedule();
-  QWidget* makeFrame(Form& form, Canvas* canvas);
-  QWidget* makeChild(Form& form, Canvas* canvas);
+  QWidget* makeFrame(Canvas* canvas);
   QWidget* makeWindow(Form& form, Canvas* canvas);
-  void place(const Form& form, const Shown& shown);
-  void takeHome(const Form& form, QMdiSubWindow* child);
+  void showFrame();
+  void place(Form& form, const Shown& shown);
+  void placeChild(const Form& form, ChildWindow& child);
+  void placeWindow(const Form& form, QWidget& window);
+  void placeChildren();
   void stack();
+  void turnKeyboard();
   void takePlace(Form& form, const QWidget& window);
   void takeSize(Form& form, const QWidget& window);
+  bool windowEvent(Form& form, QWidget& window, QEvent& event);
+  void watchHand(QObject* watched, QEvent* event);
   Form* formOf(const QObject* window) const;
 
   QHash<const Form*, Shown> shown_;
-  QSet<Form*> changed_;  // controls of these are to be looked at
-  QSet<Form*> placed_;   // title and place of these are
+  QSet<Form*> changed_;             // controls of these are to be looked at
+  QSet<Form*> placed_;              // title and place of these are
+  std::vector<Form*> stacked_;      // front to back, as the windows lie now
+  const Form* turnedTo_ = nullptr;  // as the desktop has been told
   QMainWindow* frame_ = nullptr;
-  QMdiArea* area_ = nullptr;
+  ClientArea* area_ = nullptr;
   bool scheduled_ = false;
   bool orderChanged_ = false;
   bool following_ = false;  // the windows follow the model: their events are no doing of the user's
