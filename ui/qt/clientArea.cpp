@@ -31,17 +31,15 @@ void showBar(QScrollBar& bar, double from, double to, double room, double at) {
 ClientArea::ClientArea(QWidget* parent) : QAbstractScrollArea(parent) {
   setFrameShape(QFrame::NoFrame);
   setFocusPolicy(Qt::NoFocus);
-  viewport()->setBackgroundRole(QPalette::Dark);
-  viewport()->setAutoFillBackground(true);
+}
+
+void ClientArea::paintEvent(QPaintEvent* event) {
+  if (frame_ != nullptr) QPainter(viewport()).fillRect(event->rect(), colourOf(frame_->BackColor));
 }
 
 void ClientArea::follow(Form& frame) {
   const QScopedValueRollback<bool> following(following_, true);
   frame_ = &frame;
-  // Set after the frame's ground, like the inside of every other form.
-  QPalette ground = viewport()->palette();
-  ground.setColor(QPalette::Dark, colourOf(frame.BackColor));
-  viewport()->setPalette(ground);
   const Area seen = frame.clientArea();
   const Area range = frame.scrollRange();
   showBar(*horizontalScrollBar(), range.left, range.right(), seen.width, frame.ScrollLeft);

@@ -18,6 +18,7 @@ class ClientArea final : public QAbstractScrollArea {
   void follow(Form& frame);
 
  protected:
+  void paintEvent(QPaintEvent* event) override;
   void scrollContentsBy(int dx, int dy) override;
 
  private:

@@ -56,6 +56,7 @@ Qt::WindowFlags flagsOf(const Form& form) {
     if (form.hasCloseBox()) flags |= Qt::WindowCloseButtonHint;
   }
   if (form.inFront()) flags |= Qt::WindowStaysOnTopHint;
+  if (offscreen()) flags |= Qt::FramelessWindowHint;  // else it keeps a thin edge free all round
   return flags;
 }
 
@@ -102,6 +103,7 @@ void Windows::formLoaded(Form& form) {
 
 QWidget* Windows::makeFrame(Canvas* canvas) {
   frame_ = new QMainWindow;
+  frame_->setWindowFlag(Qt::FramelessWindowHint, offscreen());
   auto* inside = new QWidget;
   auto* layout = new QVBoxLayout(inside);
   layout->setContentsMargins(0, 0, 0, 0);
@@ -189,7 +191,8 @@ void Windows::formShown(Form& form) {
   }
   if (form.kind() == FormKind::Window) {
     shown.window->setWindowModality(form.modal() ? Qt::ApplicationModal : Qt::NonModal);
-    if (shown.window->windowFlags() != flagsOf(form)) shown.window->setWindowFlags(flagsOf(form));
+    if (shown.window->windowFlags().testFlag(Qt::WindowStaysOnTopHint) != form.inFront())
+      shown.window->setWindowFlag(Qt::WindowStaysOnTopHint, form.inFront());
   }
   place(form, shown);
   shown.canvas->show();
