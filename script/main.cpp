@@ -58,6 +58,15 @@ std::string readOptions(int argc, char** argv, Options& options) {
   return {};
 }
 
+/// The result is empty, or why the file cannot be read.
+std::string openScript(const std::string& name, std::ifstream& file) {
+  // A folder opens like a file and then reads as empty: a script that would pass without one command. A pipe is fine:
+  // another program may be writing the script.
+  std::error_code error;
+  if (!std::filesystem::is_directory(name, error)) file.open(name);
+  return file.is_open() ? std::string() : "cannot read " + name;
+}
+
 void tellFatal(const std::string& text) {
   std::cout << "fatal: " << text << std::endl;
 }
@@ -77,13 +86,7 @@ int main(int argc, char** argv) {
   Options options;
   std::string wrong = readOptions(argc, argv, options);
   std::ifstream file;
-  if (wrong.empty() && !options.file.empty()) {
-    // A folder opens like a file and then reads as empty: a script that would pass without one command. A pipe is
-    // fine: another program may be writing the script.
-    std::error_code error;
-    if (!std::filesystem::is_directory(options.file, error)) file.open(options.file);
-    if (!file.is_open()) wrong = "cannot read " + options.file;
-  }
+  if (wrong.empty() && !options.file.empty()) wrong = openScript(options.file, file);
   if (!wrong.empty()) {
     std::fprintf(stderr, "zelvs-script: %s\n%s", wrong.c_str(), kUsage);
     return kWrongCommandLine;

@@ -9,6 +9,7 @@
 #   #no-lessons       starts without NaviData
 #   #status N         the exit status that is wanted, 0 without the line
 #   #prints TEXT      a line that must be printed, byte for byte
+#   #prints-all       those are all the lines, in this order, but for any "ok"
 set -eu
 program=$1
 converter=$2
@@ -54,3 +55,7 @@ fi
 sed -n 's/^#prints //p' "$case" | while IFS= read -r line; do
   grep -qxF -e "$line" "$folder/output" || { echo "not printed: $line"; exit 1; }
 done
+if grep -q '^#prints-all' "$case"; then
+  sed -n 's/^#prints //p' "$case" | sed '/^ok$/d' > "$folder/wanted"
+  sed '/^ok$/d' "$folder/output" | diff "$folder/wanted" -
+fi
