@@ -37,6 +37,7 @@ std::set<std::string> commandsOfExamples() {
     for (std::string line; std::getline(lines, line);) {
       const auto words = wordsOf(line);
       if (words && !words->empty()) names.insert(words->front());
+      if (words && words->size() > 1) names.insert(words->front() + " " + (*words)[1]);
     }
   }
   return names;

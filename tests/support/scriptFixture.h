@@ -5,6 +5,7 @@
 #include <vector>
 
 #include "script/scriptRunner.h"
+#include "ui/headless/headlessHands.h"
 #include "support/program.h"
 
 namespace zelvs {
@@ -18,7 +19,7 @@ class ScriptTest : public ProgramTest {
   std::string run(const std::string& commands, bool prompt = false) {
     std::istringstream in(commands);
     std::ostringstream out;
-    Hands hands;
+    HeadlessHands hands;
     ScriptRunner runner(in, out, platform, hands, prompt);
     status = runner.run();
     platform.onWait = nullptr;
