@@ -78,6 +78,15 @@ inline bool scanActive() {
 /// Steps that noise holds off after a press; the first of them is spoilt.
 inline constexpr std::int16_t kNoiseHoldOffSteps = 500;
 
+// Areas of chipMemory, one word a station in each; the control words come first.
+inline constexpr int kAreaSize = 0x80;
+inline constexpr int kDoArea = 0x80;
+inline constexpr int kDiArea = 0x100;
+inline constexpr int kCounterArea = 0x180;  ///< counter j lies (j - 1) times kAreaSize above
+inline constexpr int kSerialArea = 0x480;
+inline constexpr int kDrcArea = 0x500;
+inline constexpr int kDataEnd = 0x580;  ///< first address behind the data area
+
 // Register addresses in chipMemory. Low byte at the even address, high byte behind it.
 inline constexpr int kScrLow = 0x580;
 inline constexpr int kScrHigh = 0x581;
@@ -95,7 +104,6 @@ inline constexpr int kRegistersCleared = 0x58D;  ///< last address of SCR to C2C
 inline constexpr int kBcrLow = 0x58E;
 inline constexpr int kBcrHigh = 0x58F;
 inline constexpr int kChipName = 0x590;
-inline constexpr int kDataEnd = 0x580;  ///< first address behind the data area
 
 inline constexpr int kRegisterRows = 8;
 inline constexpr int kBcrRow = 8;
@@ -104,6 +112,12 @@ inline constexpr std::uint8_t kBcrFullDuplex = 0x10;
 inline constexpr std::uint8_t kBcrResetFull = 0x13;
 inline constexpr std::uint8_t kBcrResetHalf = 0x03;
 inline constexpr std::uint8_t kBcrClockMask = 0x03;
+
+/// The interrupt lines to the CPU: 0 none, 1 INT0, 2 INT1, 3 both. Any status bit drives its line; the enables act
+/// only when a status is set.
+inline int interruptLines() {
+  return (chipMemory[kInt0Status] != 0 ? 1 : 0) + (chipMemory[kInt1Status] != 0 ? 2 : 0);
+}
 
 /// A shared number by its name, for the script. count 0: not an array.
 struct VariableName {
