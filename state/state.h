@@ -70,6 +70,11 @@ inline bool bigEndian() {
   return (cpuType & 2) != 0;
 }
 
+/// Where a byte of the CPU's address lies in chipMemory: big endian, the two bytes of a word change places.
+inline int indexOfAddress(int address) {
+  return bigEndian() ? address ^ 1 : address;
+}
+
 /// True while one of the two scans runs, as the engine and the registers see it.
 inline bool scanActive() {
   return continuousScanActive != kFalse || oneShotScanActive != kFalse;
@@ -104,10 +109,13 @@ inline constexpr int kRegistersCleared = 0x58D;  ///< last address of SCR to C2C
 inline constexpr int kBcrLow = 0x58E;
 inline constexpr int kBcrHigh = 0x58F;
 inline constexpr int kChipName = 0x590;
+inline constexpr int kRegistersEnd = 0x590;  ///< the CPU can read, but not write, from here on
 
 inline constexpr int kRegisterRows = 8;
 inline constexpr int kBcrRow = 8;
 
+inline constexpr std::uint8_t kHprProtect = 0x10;   ///< in either half: hazard protect is on
+inline constexpr std::uint8_t kHprHalfDone = 0x01;  ///< in either half: a buffer waits for the second half of a word
 inline constexpr std::uint8_t kBcrFullDuplex = 0x10;
 inline constexpr std::uint8_t kBcrResetFull = 0x13;
 inline constexpr std::uint8_t kBcrResetHalf = 0x03;
