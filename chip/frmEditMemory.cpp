@@ -1,7 +1,6 @@
 #include "chip/frmEditMemory.h"
 
-#include "chip/accessRules.h"
-#include "dialogs/messages.h"
+#include "chip/bus.h"
 #include "state/cellAddress.h"
 #include "state/state.h"
 #include "text/hexText.h"
@@ -29,18 +28,16 @@ void FrmEditMemory::refresh() {
   const int at = address();
   lblAdr.Caption = hexText(static_cast<unsigned>(at), 3);
   lblBitInd.Caption = wordAccess() ? "bit 15----0" : "bit 7--0";
-  showValue(chipMemory[at | 1], chipMemory[wordAccess() ? at : indexOfAddress(at)]);
+  showValue(wordAccess() ? readWord(at) : chipMemory[indexOfAddress(at)]);
   mark(kRed, wordAccess() ? kRed : kBlack);
 }
 
 void FrmEditMemory::write() {
-  const auto low = static_cast<std::uint8_t>(enteredLow());
-  const std::string_view message =
-      wordAccess() ? writeWord(address(), static_cast<std::uint8_t>(enteredHigh()), low) : writeByte(address(), low);
+  const Written written = wordAccess() ? writeWord(address(), enteredWord()) : writeByte(address(), enteredByte());
   unmark();
   tellWritten();
   hide();
-  if (!message.empty()) showMessageBeside(*this, message);
+  tell(written.answer);
 }
 
 void FrmEditMemory::unmark() {

@@ -1,9 +1,7 @@
 #include "chip/frmEditRegister.h"
 
-#include "chip/accessRules.h"
+#include "chip/bus.h"
 #include "chip/frmMemoryRead.h"
-#include "chip/registerWrite.h"
-#include "dialogs/messages.h"
 #include "state/state.h"
 #include "text/hexText.h"
 #include "ui/hexField.h"
@@ -19,30 +17,27 @@ FrmEditRegister::FrmEditRegister() : WriteDialog("frmEditRegister", kKind, Enter
   addMember("editAccess", &editAccess);
 }
 
+int FrmEditRegister::address() const {
+  if (wordAccess()) return editRegisterAddress;
+  return indexOfAddress(writesLow() ? editRegisterAddress : editRegisterAddress + 1);
+}
+
 void FrmEditRegister::refresh() {
   editAccess = wordAccess() ? 0 : 1;
-  const int low = editRegisterAddress;
-  const int high = low + 1;
   const std::string bits = wordAccess() ? "15-0" : writesLow() ? "7-0" : "15-8";
-  const int address = wordAccess() ? low : indexOfAddress(writesLow() ? low : high);
-  lblAdr.Caption = hexText(static_cast<unsigned>(address), 3) + "H " + editRegisterName + " " + bits;
+  lblAdr.Caption = hexText(static_cast<unsigned>(address()), 3) + "H " + editRegisterName + " " + bits;
   lblBitInd.Caption = "bit " + bits;
-  showValue(chipMemory[high], chipMemory[writesLow() ? low : high]);
+  showValue(wordAccess() ? readWord(address()) : chipMemory[indexOfAddress(address())]);
   mark(writesHigh(), writesLow());
 }
 
 void FrmEditRegister::write() {
-  const std::uint8_t readSide = chipMemory[kHprLow];
-  RegisterValue value;
-  if (writesLow()) value.low = static_cast<std::uint8_t>(enteredLow());
-  if (writesHigh()) value.high = static_cast<std::uint8_t>(wordAccess() ? enteredHigh() : enteredLow());
-  const WriteReport report = writeRegister(editRegisterAddress, value);
-  if (chipMemory[kHprLow] != readSide && frmMemoryRead.visible()) frmMemoryRead->initReadMemory();
+  const Written written = wordAccess() ? writeWord(address(), enteredWord()) : writeByte(address(), enteredByte());
+  if (written.readSideChanged && frmMemoryRead.visible()) frmMemoryRead->initReadMemory();
   tellWritten();
   unmark();
   hide();
-  if (!report.message.empty()) showMessageBeside(*this, report.message);
-  if (!report.warning.empty()) askDialog(report.warning, DialogMode::OneButton, kWarningTitle);
+  tell(written.answer);
 }
 
 void FrmEditRegister::unmark() {

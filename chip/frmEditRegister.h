@@ -33,6 +33,8 @@ class FrmEditRegister final : public WriteDialog {
   void unmark() override;
 
  private:
+  /// As the CPU gives it.
+  int address() const;
   void mark(bool high, bool low);
   bool writesHigh() const { return wordAccess() || editLowByte == 0; }
   bool writesLow() const { return wordAccess() || editLowByte != 0; }

@@ -93,7 +93,7 @@ void FrmMemoryRead::read() {
     return;
   }
   const ByteRead byte = readByte(static_cast<int>(hexValue(address)), buffer_);
-  lblGuide.Caption = byte.guide;
+  lblGuide.Caption = wordsOf(byte.source);
   lblData.Caption = hexText(byte.value, 2);
   lblAdr.Caption = address + "H";
   askForAddress();

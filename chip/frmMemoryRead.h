@@ -1,6 +1,6 @@
 #pragma once
 
-#include "chip/accessRules.h"
+#include "chip/bus.h"
 #include "ui/controls.h"
 #include "ui/form.h"
 

@@ -11,20 +11,8 @@ namespace zelvs {
 
 namespace {
 
-constexpr std::string_view kBadValue = "入力された値が不適切であるため、書き込まれません。";
-constexpr std::string_view kScrWordMismatch =
-    "ＢＣＲレジスタのフル/ハーフ設定がハードウェア設定と一致していません。\r\n\r\n"
-    "ハードウェアの設定を変更するか、ＢＣＲの値を変更してください。";
-constexpr std::string_view kScrLowMismatch =
-    "通信設定がハードウェア設定と一致していません。\r\n\r\n"
-    "ハードウェアの設定を変更するか、レジスタの値を変更するまで停止します。";
-constexpr std::string_view kBcrMismatch =
-    "ＢＣＲレジスタのフル/ハーフ設定がハードウェア設定と一致していません。\r\n\r\n"
-    "ハードウェアの設定を変更するか、ＢＣＲの値を変更するまで開始しません。";
-
 // What a write can reach in a register; the rest keeps what it held.
 constexpr std::uint8_t kStationBits = 0x3F;
-constexpr std::uint8_t kHprBits = 0x10;
 constexpr std::uint8_t kInt0EnableBits = 0xFF;
 constexpr std::uint8_t kInt1EnableBits = 0xF8;
 constexpr std::uint8_t kBcrLowBits = kBcrFullDuplex | kBcrClockMask;
@@ -50,32 +38,33 @@ bool scanRefused(int high, int low) {
   return (asksOneShot && (asksContinuous || continuous || oneShot)) || (asksContinuous && oneShot) || tooShort;
 }
 
-WriteReport writeScr(const RegisterValue& value) {
-  if (scanRefused(value.high.value_or(0), value.low.value_or(0))) return {kBadValue, {}};
+Written writeScr(const RegisterValue& value) {
+  if (scanRefused(value.high.value_or(0), value.low.value_or(0))) return {Answer::BadValue};
   if (jumpersDisagree()) {
-    return {{}, !value.low ? kBcrMismatch : !value.high ? kScrLowMismatch : kScrWordMismatch};
+    return {!value.low ? Answer::ScrHighMismatch : !value.high ? Answer::ScrLowMismatch : Answer::ScrWordMismatch};
   }
   if (value.low) chipMemory[kScrLow] = *value.low & kStationBits;
   if (value.high) chipMemory[kScrHigh] = *value.high & kStationBits;
   return {};
 }
 
-WriteReport writeSsr(const RegisterValue& /*value*/) {
-  return {kReadOnlyRegister, {}};
+Written writeSsr(const RegisterValue& /*value*/) {
+  return {registerProtection(kSsrLow)};
 }
 
 void setHpr(int address, std::uint8_t value) {
-  chipMemory[address] = static_cast<std::uint8_t>((value & kHprBits) | (chipMemory[address] & 1));
+  chipMemory[address] = static_cast<std::uint8_t>((value & kHprProtect) | (chipMemory[address] & kHprHalfDone));
 }
 
-WriteReport writeHpr(const RegisterValue& value) {
+Written writeHpr(const RegisterValue& value) {
+  const std::uint8_t readSide = chipMemory[kHprLow];
   if (value.high) setHpr(kHprHigh, *value.high);
   if (value.low) setHpr(kHprLow, *value.low);
-  return {};
+  return {Answer::Ok, chipMemory[kHprLow] != readSide};
 }
 
 /// The high byte enables, a 1 in the low byte clears its status bit.
-WriteReport writeInterrupt(int status, std::uint8_t enableBits, const RegisterValue& value) {
+Written writeInterrupt(int status, std::uint8_t enableBits, const RegisterValue& value) {
   if (value.high) chipMemory[status + 1] = *value.high & enableBits;
   if (value.low) {
     chipMemory[status] &= static_cast<std::uint8_t>(~*value.low);
@@ -84,34 +73,34 @@ WriteReport writeInterrupt(int status, std::uint8_t enableBits, const RegisterVa
   return {};
 }
 
-WriteReport writeInt0r(const RegisterValue& value) {
+Written writeInt0r(const RegisterValue& value) {
   return writeInterrupt(kInt0Status, kInt0EnableBits, value);
 }
 
-WriteReport writeInt1r(const RegisterValue& value) {
+Written writeInt1r(const RegisterValue& value) {
   return writeInterrupt(kInt1Status, kInt1EnableBits, value);
 }
 
-WriteReport writeCount(int address, const RegisterValue& value) {
+Written writeCount(int address, const RegisterValue& value) {
   if (value.low && (*value.low & kClearCount) != 0) chipMemory[address] = 0;
   return {};
 }
 
-WriteReport writeC1cr(const RegisterValue& value) {
+Written writeC1cr(const RegisterValue& value) {
   return writeCount(kC1crLow, value);
 }
 
-WriteReport writeC2cr(const RegisterValue& value) {
+Written writeC2cr(const RegisterValue& value) {
   return writeCount(kC2crLow, value);
 }
 
-WriteReport writeBcr(const RegisterValue& value) {
-  if (scanActive()) return {kRegisterProtected, {}};
+Written writeBcr(const RegisterValue& value) {
+  if (const Answer protection = registerProtection(kBcrLow); protection != Answer::Ok) return {protection};
   if (value.high) chipMemory[kBcrHigh] = *value.high & kBcrHighBits;
   if (!value.low) return {};
   chipMemory[kBcrLow] = *value.low & kBcrLowBits;
   // This warning comes after the fact: the value stands.
-  return {{}, jumpersDisagree() ? kBcrMismatch : std::string_view()};
+  return {jumpersDisagree() ? Answer::BcrMismatch : Answer::Ok};
 }
 
 /// Index: half the distance from the first register.
@@ -120,7 +109,12 @@ static_assert(kWriters.size() == kRegisterRows);
 
 }  // namespace
 
-WriteReport writeRegister(int address, const RegisterValue& value) {
+Answer registerProtection(int address) {
+  if (address == kSsrLow) return Answer::ReadOnlyRegister;
+  return address == kBcrLow && scanActive() ? Answer::RegisterProtected : Answer::Ok;
+}
+
+Written writeRegister(int address, const RegisterValue& value) {
   if (address < kScrLow || address > kBcrLow || address % 2 != 0) {
     runTimeError("there is no register at the address " + hexText(static_cast<unsigned>(address), 3) + "H");
   }

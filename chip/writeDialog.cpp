@@ -1,5 +1,6 @@
 #include "chip/writeDialog.h"
 
+#include "dialogs/messages.h"
 #include "state/state.h"
 #include "text/hexText.h"
 #include "ui/desk.h"
@@ -69,18 +70,28 @@ void WriteDialog::chooseAccess() {
   opnAccess(wideBus() ? 0 : 1).Value = true;
 }
 
-void WriteDialog::showValue(unsigned high, unsigned low) {
-  txtWriteData.MaxLength = wordAccess() ? kWordDigits : kByteDigits;
-  txtWriteData.Text = (wordAccess() ? hexText(high, kByteDigits) : std::string()) + hexText(low, kByteDigits);
+void WriteDialog::showValue(unsigned value) {
+  const int digits = wordAccess() ? kWordDigits : kByteDigits;
+  txtWriteData.MaxLength = digits;
+  txtWriteData.Text = hexText(value, digits);
   txtWriteData.SelStart = 0;
 }
 
-unsigned WriteDialog::enteredHigh() const {
-  return hexValue(txtWriteData.Text.get().substr(0, kByteDigits));
+std::uint16_t WriteDialog::enteredWord() const {
+  return static_cast<std::uint16_t>(hexValue(txtWriteData.Text.get()));
 }
 
-unsigned WriteDialog::enteredLow() const {
-  return hexValue(txtWriteData.Text.get().substr(wordAccess() ? kByteDigits : 0));
+std::uint8_t WriteDialog::enteredByte() const {
+  return static_cast<std::uint8_t>(hexValue(txtWriteData.Text.get()));
+}
+
+void WriteDialog::tell(Answer answer) {
+  const std::string_view words = wordsOf(answer);
+  if (toldInBox(answer)) {
+    askDialog(words, DialogMode::OneButton, kWarningTitle);
+  } else if (!words.empty()) {
+    showMessageBeside(*this, words);
+  }
 }
 
 void WriteDialog::activated() {

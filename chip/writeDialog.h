@@ -1,8 +1,10 @@
 #pragma once
 
+#include <cstdint>
 #include <functional>
 #include <string>
 
+#include "chip/answer.h"
 #include "ui/controls.h"
 #include "ui/form.h"
 
@@ -41,11 +43,12 @@ class WriteDialog : public Form {
   void tellWritten() const {
     if (onWritten) onWritten();
   }
-  /// Gives the field its length and fills it; high counts in a word only.
-  void showValue(unsigned high, unsigned low);
-  unsigned enteredHigh() const;
-  /// The low byte of a word, or the byte.
-  unsigned enteredLow() const;
+  /// Gives the field its length and fills it with a word or a byte.
+  void showValue(unsigned value);
+  std::uint16_t enteredWord() const;
+  std::uint8_t enteredByte() const;
+  /// What a write was answered, when the dialog has hidden itself: in the pop-up, in the box, or not at all.
+  void tell(Answer answer);
 
   void activated() override;
   bool queryUnload(bool byUser) override;

@@ -14,14 +14,6 @@ namespace zelvs {
 
 namespace {
 
-// Areas of chip memory, one word a station.
-constexpr int kDoArea = 0x80;
-constexpr int kDiArea = 0x100;
-constexpr int kCounterArea = 0x180;  // counter j lies (j - 1) times kAreaSize above
-constexpr int kSerialArea = 0x480;
-constexpr int kDrcArea = 0x500;
-constexpr int kAreaSize = 0x80;
-
 // Control word, low byte: the CPU's order.
 constexpr std::uint8_t kCommandMask = 0x0F;
 constexpr std::uint8_t kKeptBits = 0xC0;
@@ -484,8 +476,7 @@ void evaluateCycleEnd() {
 
 void refreshIntLine() {
   constexpr std::int16_t kNoLine = 1;
-  intLinePicture = static_cast<std::int16_t>(kNoLine + (chipMemory[kInt0Status] != 0 ? 1 : 0) +
-                                             (chipMemory[kInt1Status] != 0 ? 2 : 0));
+  intLinePicture = static_cast<std::int16_t>(kNoLine + interruptLines());
   if (intLinePicture == intLinePictureShown) return;
   frmHard->picInt.Picture = frmHard->ilsInt.image(intLinePicture);
   frmHard->picInt.Visible = intLinePicture != kNoLine;

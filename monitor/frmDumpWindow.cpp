@@ -2,8 +2,8 @@
 
 #include <string>
 
-#include "bench/frmHard.h"
 #include "bench/ilsMouse.h"
+#include "chip/bus.h"
 #include "dialogs/messages.h"
 #include "monitor/frmDumpSel.h"
 #include "monitor/frmHint.h"
@@ -19,7 +19,7 @@ namespace zelvs {
 
 namespace {
 
-enum { kCDIO, kC17, kDRC };
+constexpr int kDRC = 2;
 
 // Places in twips. The two columns of the layouts are set in mduMemoryWindow.
 constexpr double kRowHeight = 225;
@@ -42,29 +42,6 @@ constexpr Colour kHeadingText = 0x7A5A3C;
 constexpr std::string_view kPointingNoAddress = " Pointing Address = ---- ------ : --";
 constexpr std::string_view kPointingNoSA = " Pointing SA = --- ----";
 
-/// Cells that a double click does not open while the chip scans.
-struct Protection {
-  int window, firstCell, lastCell;
-  bool highBytesOnly;  // on an 8-bit bus, the even cells
-  std::string_view message;
-};
-constexpr int kLastControlCell = 127;
-constexpr std::array<Protection, 3> kProtections = {{
-    {kCDIO, 0, kLastControlCell, true, "スキャン中、コントロールワードの上位バイトはライトプロテクト"},
-    {kCDIO, 256, 383, false, "スキャン中はライトプロテクト"},
-    {kC17, 0, 895, false, "スキャン中はライトプロテクト"},
-}};
-
-const Protection* protectionOf(int window, int cell) {
-  if (!scanLampLit()) return nullptr;
-  const bool byteBus = !wideBus();
-  for (const Protection& rule : kProtections) {
-    if (rule.window != window || cell < rule.firstCell || cell > rule.lastCell) continue;
-    if (!rule.highBytesOnly || (byteBus && cell % 2 == 0)) return &rule;
-  }
-  return nullptr;
-}
-
 std::string lastOf(const std::string& text, std::size_t count) {
   return text.substr(text.size() - count);
 }
@@ -73,12 +50,17 @@ void openEditorAt(FrmDump& form, const PictureBox& area, const Label& cell) {
   openMemoryEditor(form, form.lblAdr(0).Caption.get(), cell.index(), area.Left + cell.Left + form.Left);
 }
 
+int addressOf(const FrmDump& form, int cell) {
+  return addressOfCell(form.lblAdr(0).Caption.get(), cell);
+}
+
 void lblData_DblClick(FrmDump& form, int cell) {
-  if (const Protection* rule = protectionOf(form.window(), cell)) {
-    showMessage(rule->message);
+  const int index = indexOfAddress(addressOf(form, cell));
+  if (const Answer answer = askWrite(index); answer != Answer::Ok) {
+    showMessage(wordsOf(answer));
     return;
   }
-  if (form.window() == kCDIO && cell <= kLastControlCell) selectControlWordHint();
+  if (index < kDoArea) selectControlWordHint();
   openEditorAt(form, form.Picture1, form.lblData(cell));
 }
 
@@ -253,7 +235,7 @@ void FrmDump::activated() {
 
 void FrmDump::setPointing(int cellIndex) {
   constexpr int kBlockMask = 127;  // every block of 128 bytes holds a word for each station
-  const int address = addressOfCell(lblAdr(0).Caption.get(), cellIndex);
+  const int address = addressOf(*this, cellIndex);
   const std::string value = lblData(cellIndex).Caption;
   lblPointAddress.Caption = " Pointing Address = " + hexText(static_cast<unsigned>(address), 3) + "H (" +
                             lastOf("   " + std::to_string(address), 4) + ") : " + lastOf("00" + value, 2);

@@ -5,8 +5,8 @@
 #include <string_view>
 
 #include "bench/ilsMouse.h"
+#include "chip/bus.h"
 #include "chip/frmEditRegister.h"
-#include "chip/registerWrite.h"
 #include "dialogs/frmMessage.h"
 #include "dialogs/messages.h"
 #include "monitor/frmHint.h"
@@ -21,25 +21,19 @@ namespace zelvs {
 
 namespace {
 
-struct RegisterRow {
-  std::string_view name;
-  std::string_view address;
-};
-
 /// Index: row. Row 0 is the heading, row 9 has no function.
-constexpr std::array<RegisterRow, 10> kRows = {{
-    {"Reg.", ""},
-    {"SCR", "580"},
-    {"SSR", "582"},
-    {"HPR", "584"},
-    {"INT0R", "586"},
-    {"INT1R", "588"},
-    {"C1CR", "58A"},
-    {"C2CR", "58C"},
-    {"BCR", "58E"},
-    {"CC", ""},
-}};
+constexpr std::array<std::string_view, 10> kNames = {"Reg.",  "SCR",  "SSR",  "HPR", "INT0R",
+                                                     "INT1R", "C1CR", "C2CR", "BCR", "CC"};
 constexpr int kSsrRow = 2;
+
+std::string_view nameOfRow(int row) {
+  return kNames[static_cast<std::size_t>(row)];
+}
+
+/// Even; row 1 to 8.
+int addressOfRow(int row) {
+  return kScrLow + 2 * (row - 1);
+}
 
 constexpr double kRowHeight = 270;
 constexpr double kFirstRow = 360;
@@ -90,19 +84,19 @@ FrmRegister::FrmRegister() : Form("frmRegister", kKind, Border::Fixed) {
     label.move(left, top, width, kRowHeight);
   };
   place(lblVal, "Val.", kValueHighLeft, 60, 2 * kValueWidth);
-  place(lblReg(0), kRows[0].name, kNameLeft, 60, kNameWidth);
+  place(lblReg(0), nameOfRow(0), kNameLeft, 60, kNameWidth);
   place(lblBin, "15---------7-------0", kBinaryHighLeft, 60, kBinaryHighWidth + kBinaryLowWidth);
   for (int row = 1; row <= 9; ++row) {
     const double top = kFirstRow + (row - 1) * kRowHeight;
     place(lblValH(row), "00", kValueHighLeft, top, kValueWidth);
     place(lblValL(row), "00", kValueLowLeft, top, kValueWidth);
-    place(lblReg(row), kRows[static_cast<std::size_t>(row)].name, kNameLeft, top, kNameWidth);
+    place(lblReg(row), nameOfRow(row), kNameLeft, top, kNameWidth);
     place(lblBinH(row), " 0000_0000", kBinaryHighLeft, top, kBinaryHighWidth);
     place(lblBinL(row), "0000_0000", kBinaryLowLeft, top, kBinaryLowWidth);
   }
   for (int row = 1; row <= kRegisterRows; ++row) {
     const auto opens = [this, row](int cell) {
-      return [this, row, cell] { openRegisterEditor(*this, lblReg(row).Caption.get(), row, cell); };
+      return [this, row, cell] { openRegisterEditor(*this, nameOfRow(row), row, cell); };
     };
     lblValH(row).onDblClick = lblBinH(row).onDblClick = opens(0);
     lblValL(row).onDblClick = lblBinL(row).onDblClick = opens(1);
@@ -118,20 +112,17 @@ void FrmRegister::load() {
   timRegister.Interval = 1000;
 }
 
-std::string_view regAddressText(std::string_view name) {
-  for (const RegisterRow& row : kRows) {
-    if (row.name == name) return row.address;
+std::string regAddressText(std::string_view name) {
+  for (int row = 1; row <= kRegisterRows; ++row) {
+    if (nameOfRow(row) == name) return hexText(static_cast<unsigned>(addressOfRow(row)), 3);
   }
   return {};
 }
 
 void openRegisterEditor(FrmRegister& form, std::string_view name, int row, int cell) {
-  if (row == kSsrRow) {
-    showMessage(kReadOnlyRegister);
-    return;
-  }
-  if (row == kBcrRow && scanActive()) {
-    showMessage(kRegisterProtected);
+  const int address = addressOfRow(row);
+  if (const Answer answer = askWrite(address); answer != Answer::Ok) {
+    showMessage(wordsOf(answer));
     return;
   }
   selectHintTab(name);
@@ -140,7 +131,7 @@ void openRegisterEditor(FrmRegister& form, std::string_view name, int row, int c
   // Counted as for a child of the frame, which this window once was: it opens that much below its row.
   dialog.move(form.Left, desk().frame()->clientAreaTop() + form.Top + kCaptionHeight + cellBottom);
   dialog.editRegisterName = name;
-  dialog.editRegisterAddress = static_cast<std::int16_t>(hexValue(std::string(regAddressText(name))));
+  dialog.editRegisterAddress = static_cast<std::int16_t>(address);
   dialog.editRow = static_cast<std::int16_t>(row);
   dialog.editLowByte = static_cast<std::int16_t>(cell);
   dialog.cells = {{&form.lblValH(row), &form.lblBinH(row)}, {&form.lblValL(row), &form.lblBinL(row)}};
@@ -153,7 +144,7 @@ void openRegisterEditor(FrmRegister& form, std::string_view name, int row, int c
 void refreshRegisterWindow() {
   if (!frmRegister.visible()) return;
   for (int row = 1; row <= kRegisterRows; ++row) {
-    const int address = kScrLow + 2 * (row - 1);
+    const int address = addressOfRow(row);
     const std::uint8_t low = chipMemory[address];
     const std::uint8_t high = chipMemory[address + 1];
     frmRegister->lblValL(row).Caption = hexText(low, 2);

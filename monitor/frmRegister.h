@@ -1,5 +1,6 @@
 #pragma once
 
+#include <string>
 #include <string_view>
 
 #include "ui/controls.h"
@@ -31,10 +32,10 @@ class FrmRegister final : public Form {
 inline FormRef<FrmRegister> frmRegister{"frmRegister"};
 
 /// Three hexadecimal digits of a register's even address; empty for a name that no register has.
-std::string_view regAddressText(std::string_view name);
+std::string regAddressText(std::string_view name);
 
-/// A value cell was double clicked: opens the register write dialog below its row, or tells why not. row from 1;
-/// cell 0: the high byte, 1: the low byte.
+/// A value cell was double clicked: opens the register write dialog below its row, or tells why not. row from 1,
+/// name: that row's; cell 0: the high byte, 1: the low byte.
 void openRegisterEditor(FrmRegister& form, std::string_view name, int row, int cell);
 
 }  // namespace zelvs

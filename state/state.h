@@ -70,6 +70,11 @@ inline bool bigEndian() {
   return (cpuType & 2) != 0;
 }
 
+/// Where a byte of the CPU's address lies in chipMemory: big endian, the two bytes of a word change places.
+inline int indexOfAddress(int address) {
+  return bigEndian() ? address ^ 1 : address;
+}
+
 /// True while one of the two scans runs, as the engine and the registers see it.
 inline bool scanActive() {
   return continuousScanActive != kFalse || oneShotScanActive != kFalse;
@@ -77,6 +82,15 @@ inline bool scanActive() {
 
 /// Steps that noise holds off after a press; the first of them is spoilt.
 inline constexpr std::int16_t kNoiseHoldOffSteps = 500;
+
+// Areas of chipMemory, one word a station in each; the control words come first.
+inline constexpr int kAreaSize = 0x80;
+inline constexpr int kDoArea = 0x80;
+inline constexpr int kDiArea = 0x100;
+inline constexpr int kCounterArea = 0x180;  ///< counter j lies (j - 1) times kAreaSize above
+inline constexpr int kSerialArea = 0x480;
+inline constexpr int kDrcArea = 0x500;
+inline constexpr int kDataEnd = 0x580;  ///< first address behind the data area
 
 // Register addresses in chipMemory. Low byte at the even address, high byte behind it.
 inline constexpr int kScrLow = 0x580;
@@ -95,15 +109,23 @@ inline constexpr int kRegistersCleared = 0x58D;  ///< last address of SCR to C2C
 inline constexpr int kBcrLow = 0x58E;
 inline constexpr int kBcrHigh = 0x58F;
 inline constexpr int kChipName = 0x590;
-inline constexpr int kDataEnd = 0x580;  ///< first address behind the data area
+inline constexpr int kRegistersEnd = 0x590;  ///< the CPU can read, but not write, from here on
 
 inline constexpr int kRegisterRows = 8;
 inline constexpr int kBcrRow = 8;
 
+inline constexpr std::uint8_t kHprProtect = 0x10;   ///< in either half: hazard protect is on
+inline constexpr std::uint8_t kHprHalfDone = 0x01;  ///< in either half: a buffer waits for the second half of a word
 inline constexpr std::uint8_t kBcrFullDuplex = 0x10;
 inline constexpr std::uint8_t kBcrResetFull = 0x13;
 inline constexpr std::uint8_t kBcrResetHalf = 0x03;
 inline constexpr std::uint8_t kBcrClockMask = 0x03;
+
+/// The interrupt lines to the CPU: 0 none, 1 INT0, 2 INT1, 3 both. Any status bit drives its line; the enables act
+/// only when a status is set.
+inline int interruptLines() {
+  return (chipMemory[kInt0Status] != 0 ? 1 : 0) + (chipMemory[kInt1Status] != 0 ? 2 : 0);
+}
 
 /// A shared number by its name, for the script. count 0: not an array.
 struct VariableName {

@@ -1,9 +1,10 @@
-// How the CPU's accesses reach memory: bus width, byte order, protection, and the two buffers. No windows but the
-// panel, whose lamp tells that a scan runs.
+// How the CPU's accesses reach memory: bus width, byte order, protection, and the two buffers, whatever the address
+// means. No windows but the panel, whose lamp tells that a scan runs.
 
 #include <string>
 
-#include "chip/accessRules.h"
+#include "chip/bus.h"
+#include "chip/dataWrite.h"
 #include "state/cellAddress.h"
 #include "support/program.h"
 
@@ -34,6 +35,22 @@ class AccessTest : public ProgramTest {
     return text;
   }
   ReadBuffer buffer{};
+
+  // Answers as their words.
+  static std::string_view writeByte(int address, std::uint8_t value) {
+    return wordsOf(writeDataByte(indexOfAddress(address), value));
+  }
+  static std::string_view writeWord(int address, std::uint8_t high, std::uint8_t low) {
+    return wordsOf(writeDataWord(address & ~1, static_cast<std::uint16_t>(high << 8 | low)));
+  }
+  struct Read {
+    std::uint8_t value;
+    std::string_view guide;
+  };
+  static Read readByte(int address, ReadBuffer& kept) {
+    const ByteRead byte = zelvs::readByte(address, kept);
+    return {byte.value, wordsOf(byte.source)};
+  }
 };
 
 TEST_F(AccessTest, ABigEndianCpuSeesTheBytesOfAWordExchanged) {
@@ -49,7 +66,7 @@ TEST_F(AccessTest, ABigEndianCpuSeesTheBytesOfAWordExchanged) {
     EXPECT_EQ(writeByte(row.address, 0x5A), "");
     EXPECT_EQ(chipMemory[row.index], 0x5A);
     EXPECT_EQ(chipMemory[row.index ^ 1], 0);
-    const ByteRead byte = readByte(row.address, buffer);
+    const Read byte = readByte(row.address, buffer);
     EXPECT_EQ(byte.value, 0x5A);
     EXPECT_EQ(byte.guide, kFromMemory);
   }
@@ -236,12 +253,12 @@ TEST_F(AccessTest, AProtectedReadSeesBothHalvesOfOneMoment) {
     chipMemory[0x100] = 0x34;
     chipMemory[0x101] = 0x12;
     const int low = cpu == 3 ? 0x101 : 0x100;
-    const ByteRead first = readByte(low, buffer);
+    const Read first = readByte(low, buffer);
     EXPECT_EQ(first.value, 0x34);
     EXPECT_EQ(first.guide, kIntoBuffer);
     chipMemory[0x100] = 0x78;
     chipMemory[0x101] = 0x56;
-    const ByteRead second = readByte(low ^ 1, buffer);
+    const Read second = readByte(low ^ 1, buffer);
     EXPECT_EQ(second.value, 0x12);
     EXPECT_EQ(second.guide, kFromBuffer);
     EXPECT_EQ(chipMemory[kHprLow], 0x10);
@@ -256,7 +273,7 @@ TEST_F(AccessTest, TheSecondReadIsAnsweredFromTheBufferWhereverItPoints) {
   for (const int second : {0x000, 0x001, 0x4FF, 0x7FE}) {
     chipMemory[kHprLow] = 0x10;
     readByte(0x100, buffer);
-    const ByteRead byte = readByte(second, buffer);
+    const Read byte = readByte(second, buffer);
     EXPECT_EQ(byte.value, second % 2 == 0 ? 0x34 : 0x12) << second;
     EXPECT_EQ(byte.guide, kFromBuffer);
   }

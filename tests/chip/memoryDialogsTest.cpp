@@ -138,6 +138,19 @@ TEST_F(MemoryDialogTest, TheReportByteIsProtectedFromWordsDuringAScan) {
   EXPECT_EQ(chipMemory[0x03], 0x20);
 }
 
+TEST_F(MemoryDialogTest, WhatItWasOpenedOnIsWrittenEvenDuringAScan) {
+  startIdle();
+  for (const int cpu : {0, 1}) {
+    cpuType = static_cast<std::int16_t>(cpu);
+    frmHard->picScanLed.Tag = "1";
+    chipMemory[0x100] = chipMemory[0x101] = 0;
+    write(0x100, cpu == 0 ? "1234" : "34");
+    EXPECT_EQ(message(), "") << "its window has asked, or an ASCII cell has not";
+    EXPECT_EQ(chipMemory[0x100], 0x34);
+    EXPECT_EQ(chipMemory[0x101], cpu == 0 ? 0x12 : 0);
+  }
+}
+
 TEST_F(MemoryDialogTest, AProtectedWordIsWrittenInTwoHalves) {
   startIdle(1);
   chipMemory[kHprHigh] = 0x10;

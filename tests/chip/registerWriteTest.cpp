@@ -32,12 +32,17 @@ class RegisterWriteTest : public ProgramTest {
     boardFullHalf = 16;
     continuousScanActive = oneShotScanActive = kFalse;
   }
-  static WriteReport write(int address, Access access, int value) {
+  /// An answer as its words, by where they are told.
+  struct Report {
+    std::string_view message, warning;
+  };
+  static Report write(int address, Access access, int value) {
     RegisterValue parts;
     if (access != kHigh) parts.low = static_cast<std::uint8_t>(value & 0xFF);
     if (access == kWord) parts.high = static_cast<std::uint8_t>(value >> 8);
     if (access == kHigh) parts.high = static_cast<std::uint8_t>(value);
-    return writeRegister(address, parts);
+    const Answer answer = writeRegister(address, parts).answer;
+    return toldInBox(answer) ? Report{{}, wordsOf(answer)} : Report{wordsOf(answer), {}};
   }
   static int word(int address) { return chipMemory[address + 1] * 256 + chipMemory[address]; }
 };
@@ -95,7 +100,7 @@ TEST_F(RegisterWriteTest, ScrStartsAndStopsScans) {
     boardFullHalf = row.full ? 16 : 0;
     chipMemory[kScrLow] = static_cast<std::uint8_t>(row.before & 0xFF);
     chipMemory[kScrHigh] = static_cast<std::uint8_t>(row.before >> 8);
-    const WriteReport report = write(0x580, row.access, row.value);
+    const Report report = write(0x580, row.access, row.value);
     EXPECT_EQ(report.message, row.message);
     EXPECT_EQ(report.warning, "");
     EXPECT_EQ(word(0x580), row.after);
@@ -111,7 +116,7 @@ TEST_F(RegisterWriteTest, ScrIsNotWrittenWhileTheJumpersDisagree) {
       chipMemory[kBcrLow] = jumper == 0 ? 0x13 : 0x03;
       // Even a stop is held back.
       for (const int value : {0x05, 0x00}) {
-        const WriteReport report = write(0x580, access, value);
+        const Report report = write(0x580, access, value);
         EXPECT_EQ(report.warning, box);
         EXPECT_EQ(report.message, "");
         EXPECT_EQ(word(0x580), 0);
@@ -175,7 +180,7 @@ TEST_F(RegisterWriteTest, MaskedRegistersKeepWhatAWriteCannotReach) {
     idle();
     chipMemory[row.address] = static_cast<std::uint8_t>(row.before & 0xFF);
     chipMemory[row.address + 1] = static_cast<std::uint8_t>(row.before >> 8);
-    const WriteReport report = write(row.address, row.access, row.value);
+    const Report report = write(row.address, row.access, row.value);
     EXPECT_EQ(word(row.address), row.after);
     EXPECT_EQ(report.message, "");
     EXPECT_EQ(report.warning, "");
@@ -211,7 +216,7 @@ TEST_F(RegisterWriteTest, BcrStandsStillDuringAScan) {
 TEST_F(RegisterWriteTest, BcrAgainstTheJumpersIsWrittenAndTold) {
   for (const Access access : {kWord, kLow}) {
     idle();
-    const WriteReport report = write(0x58E, access, 0x03);
+    const Report report = write(0x58E, access, 0x03);
     EXPECT_EQ(report.warning, kBcrBox);
     EXPECT_EQ(report.message, "");
     EXPECT_EQ(word(0x58E), 0x03);
