@@ -1,6 +1,7 @@
 #include "ui/form.h"
 
 #include <algorithm>
+#include <cmath>
 
 #include "ui/desk.h"
 #include "ui/platform.h"
@@ -112,8 +113,10 @@ void Form::dragTo(double left, double top) {
     room = {edge, edge, frame.clientWidth(), floating_ ? frame.clientHeight() : frame.clientArea().height};
     if (!floating_) room = frame.scrollRange();
   }
-  move(std::clamp(left, room.left + kGrip - Width, std::max(room.left, room.right() - kGrip)),
-       std::clamp(top, room.top, std::max(room.top, room.bottom() - kCaptionHeight)));
+  // A mouse moves by whole pixels, and the window with it.
+  const auto snapped = [](double twips) { return std::round(twips / kTwipsPerPixel) * kTwipsPerPixel; };
+  move(snapped(std::clamp(left, room.left + kGrip - Width, std::max(room.left, room.right() - kGrip))),
+       snapped(std::clamp(top, room.top, std::max(room.top, room.bottom() - kCaptionHeight))));
 }
 
 void Form::moveToCorner(double fromRight, double fromBottom) {

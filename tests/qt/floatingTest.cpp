@@ -3,8 +3,6 @@
 #include <gtest/gtest.h>
 
 #include <QApplication>
-#include <QMainWindow>
-#include <QMouseEvent>
 
 #include "bench/frmHard.h"
 #include "monitor/frmDumpDRC.h"
@@ -23,9 +21,7 @@ class FloatingTest : public DesktopTest {
     EXPECT_EQ(hands().click(control.form(), &control), "");
     settle();
   }
-  static ChildWindow* windowOf(const Form* form) {
-    return qobject_cast<ChildWindow*>(canvasOf(form)->parentWidget());
-  }
+  static ChildWindow* windowOf(const Form* form) { return qobject_cast<ChildWindow*>(canvasOf(form)->parentWidget()); }
   /// The area of the other children that it lies in, null when it lies in the frame itself.
   static ClientArea* areaOf(const ChildWindow& window) {
     return qobject_cast<ClientArea*>(window.parentWidget()->parentWidget());
@@ -72,10 +68,9 @@ TEST_F(FloatingTest, ItStaysInFrontOfThePanelAndComesBackToItsPlace) {
 TEST_F(FloatingTest, ThePlaceThatTheUserGivesItIsTheModels) {
   click(frmDumpDRC->chkTopMost);
   ChildWindow* window = windowOf(frmDumpDRC.form());
-  window->move(300, 200);
+  frmDumpDRC->dragTo(300 * 15 + 30.0, 200 * 15 + 30.0);
   settle();
-  EXPECT_EQ(frmDumpDRC->Left, 300 * 15 + 30.0);
-  EXPECT_EQ(frmDumpDRC->Top, 200 * 15 + 30.0);
+  EXPECT_EQ(window->pos(), QPoint(300, 200));
   const QPoint place = window->mapToGlobal(QPoint(0, 0));
   click(frmDumpDRC->chkTopMost);
   EXPECT_EQ(window->mapToGlobal(QPoint(0, 0)), place);
@@ -88,19 +83,15 @@ TEST_F(FloatingTest, ItIsDraggedByItsTitleBarAndTurnedToByIt) {
   ChildWindow* window = windowOf(frmDumpDRC.form());
   const QPoint before = window->pos();
   const QPointF grip(150, 8);
-  const auto send = [&](QEvent::Type type, QPointF at, bool down) {
-    const QPointF global = window->parentWidget()->mapToGlobal(QPointF(before) + at);
-    QMouseEvent event(type, window->mapFromGlobal(global), global,
-                      type == QEvent::MouseMove ? Qt::NoButton : Qt::LeftButton, down ? Qt::LeftButton : Qt::NoButton,
-                      Qt::NoModifier);
-    QApplication::sendEvent(window, &event);
-    settle();
+  const auto placeOf = [&](QPointF at) {
+    const QPoint global = window->parentWidget()->mapToGlobal(QPointF(before) + at).toPoint();
+    return Point{global.x(), global.y()};
   };
-  send(QEvent::MouseMove, grip, false);  // the title bar learns first that the mouse is over it
-  send(QEvent::MouseButtonPress, grip, true);
+  hands().handMove(placeOf(grip));
+  hands().handDown();
   EXPECT_EQ(desk().active(), frmDumpDRC.form());
-  send(QEvent::MouseMove, grip + QPointF(-40, -30), true);
-  send(QEvent::MouseButtonRelease, grip + QPointF(-40, -30), false);
+  hands().handMove(placeOf(grip + QPointF(-40, -30)));
+  hands().handUp();
   EXPECT_EQ(window->pos(), before + QPoint(-40, -30));
   EXPECT_EQ(frmDumpDRC->Left, (before.x() - 40) * 15 + 30.0);
 }

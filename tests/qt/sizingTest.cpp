@@ -30,8 +30,8 @@ TEST_F(SizingTest, TheFormTakesTheSizeThatTheUserGives) {
     EXPECT_DOUBLE_EQ(frmNavigation->Height, size.height() * 15 + caption);
     // It went back to its corner, and the window with it.
     EXPECT_DOUBLE_EQ(frmNavigation->Left, platform().screen().width * 15 - frmNavigation->Width - 50);
-    EXPECT_EQ(window->pos().x(), qRound(frmNavigation->Left / 15));
-    EXPECT_EQ(window->pos().y(), qRound(frmNavigation->Top / 15));
+    EXPECT_EQ(window->geometry().x(), qRound(frmNavigation->Left / 15));
+    EXPECT_EQ(window->geometry().y(), qRound((frmNavigation->Top + caption) / 15)) << "the inside, below its bar";
     const QWidget* next = canvas->widgetOf(frmNavigation->cmdAction(1));
     EXPECT_NEAR(next->width(), frmNavigation->cmdAction(1).Width / 15, 2) << "out to whole pixels";
   }
