@@ -105,6 +105,7 @@ FrmRegister::FrmRegister() : Form("frmRegister", kKind, Border::Fixed) {
 }
 
 void FrmRegister::load() {
+  move(kRegisterPlace.left, kRegisterPlace.top);
   for (int row = 1; row <= 9; ++row) {
     for (Label* cell : {&lblValH(row), &lblValL(row), &lblBinH(row), &lblBinL(row)})
       setPointer(*cell, kDoubleClickPointer);
@@ -117,6 +118,13 @@ std::string regAddressText(std::string_view name) {
     if (nameOfRow(row) == name) return hexText(static_cast<unsigned>(addressOfRow(row)), 3);
   }
   return {};
+}
+
+void openRegisterWindow() {
+  const bool back = !frmRegister.visible();
+  frmRegister->show(ShowMode::Modeless, desk().frame());
+  frmRegister->bringToFront();
+  if (back) refreshRegisterWindow();
 }
 
 void openRegisterEditor(FrmRegister& form, std::string_view name, int row, int cell) {

@@ -9,6 +9,12 @@
 
 namespace zelvs {
 
+/// Where the window first stands, in twips of the screen.
+struct WindowPlace {
+  double left, top;
+};
+inline constexpr WindowPlace kRegisterPlace = {6800, 1100};
+
 /// The eight registers of the center chip, live. Rows count from 1; row 9 stands below the visible part without
 /// function.
 class FrmRegister final : public Form {
@@ -30,6 +36,9 @@ class FrmRegister final : public Form {
 };
 
 inline FormRef<FrmRegister> frmRegister{"frmRegister"};
+
+/// Brings the register window to the front. One that was not there comes back with what the registers hold.
+void openRegisterWindow();
 
 /// Three hexadecimal digits of a register's even address; empty for a name that no register has.
 std::string regAddressText(std::string_view name);

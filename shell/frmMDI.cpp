@@ -59,8 +59,7 @@ void lblMemoryWindow_Click() {
 
 void lblRegisterWindow_Click() {
   hideDumpSel();
-  frmRegister->show(ShowMode::Modeless, frmMDI.get());
-  frmRegister->bringToFront();
+  openRegisterWindow();
 }
 
 void lblVersion_Click() {

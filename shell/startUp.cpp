@@ -99,7 +99,7 @@ void loadWindows() {
 }
 
 void placeWindows() {
-  frmRegister->move(6800, 1100);
+  frmRegister->move(kRegisterPlace.left, kRegisterPlace.top);
   frmHint->move(12600, 6700);
   for (FrmDump* window : std::initializer_list<FrmDump*>{frmDumpCDIO.get(), frmDumpC17.get(), frmDumpDRC.get()}) {
     window->move(window->area().left, window->area().top);

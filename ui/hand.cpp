@@ -61,7 +61,7 @@ void Hand::down(Form& form, const Spot& spot, bool second, bool named) {
 
 bool Hand::begin(const Target& target, bool second, bool named) {
   if (!named) lose();  // a release that nobody has told of
-  const bool ours = !second || target == last_;
+  const bool ours = named || !second || target == last_;
   last_ = second && gesture::actsOnDoubleClick(target.control) ? Target{} : target;
   if (!ours) return false;
   held_ = target;
@@ -69,9 +69,12 @@ bool Hand::begin(const Target& target, bool second, bool named) {
   named_ = named;
   Control* control = controlOf(target);
   const bool turned = gesture::turnTo(formOf(target), control).empty();
-  // Turning may have shown a modal window, which took the mouse, or have taken away what was pressed.
-  const bool still = turned && held_ == target && gesture::refusal(formOf(target), control).empty();
-  if (!still) held_ = {};
+  // Turning may have shown a modal window, which took the mouse, or have taken away what was pressed. A gesture by name
+  // goes on behind the modal window, whatever other gestures were made in it.
+  const bool still =
+      turned && (named || held_ == target) && gesture::refusal(formOf(target), control).empty();
+  held_ = still ? target : Target{};
+  named_ = named;
   return still;
 }
 
