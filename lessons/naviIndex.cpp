@@ -1,6 +1,5 @@
 #include "lessons/naviIndex.h"
 
-#include <algorithm>
 #include <filesystem>
 #include <optional>
 #include <vector>
@@ -42,9 +41,7 @@ void readNaviIndex() {
 }
 
 std::string naviPath(std::string_view fileName) {
-  std::string path = naviDataPath + std::string(fileName);
-  std::replace(path.begin() + static_cast<std::ptrdiff_t>(naviDataPath.size()), path.end(), '\\', '/');
-  return path;
+  return fileIn(naviDataPath, fileName);
 }
 
 }  // namespace zelvs

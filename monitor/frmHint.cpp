@@ -54,7 +54,7 @@ void FrmHint::initHint() {
     tabHint.Tabs = ++count;
     const std::vector<std::string> fields = fieldsOf(line, 3);  // picture, caption, and what is ignored
     if (fields.size() > 1) tabHint.setTabCaption(count - 1, fields[1]);
-    const Picture picture = loadPictureIfThere(hintDir + fields[0]);
+    const Picture picture = loadPictureIfThere(fileIn(hintDir, fields[0]));
     if (!picture.none()) ilsHint.add(picture);
   }
   if (ilsHint.count() > 0) picHint.Picture = ilsHint.image(1);

@@ -197,7 +197,7 @@ void openDumpWindow(int window) {
   if (form.visible()) {
     form.setFocus();
   } else {
-    form.move(form.area().left, form.area().top);
+    moveInClientArea(form, form.area().left, form.area().top);
     form.show();
     layoutWords(form);
     form.bringToFront();

@@ -130,6 +130,7 @@ void FrmVersion::load() {
 
 void FrmVersion::activated() {
   secondsLeft_ = kSecondsShown;
+  timTimer.Enabled = false;  // shown anew it begins a whole second, and does not end the one that runs
   timTimer.Interval = kSecond;
   timTimer.Enabled = true;
   setTopmost();

@@ -9,6 +9,12 @@
 
 namespace zelvs {
 
+std::string fileIn(const std::string& folder, std::string_view name) {
+  std::string own(name);
+  std::replace(own.begin(), own.end(), '\\', '/');
+  return folder + own;
+}
+
 std::optional<std::string> readFile(const std::string& path) {
   std::error_code error;
   if (!std::filesystem::is_regular_file(path, error)) return std::nullopt;

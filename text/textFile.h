@@ -3,9 +3,13 @@
 #include <cstddef>
 #include <optional>
 #include <string>
+#include <string_view>
 #include <vector>
 
 namespace zelvs {
+
+/// Where a file lies that a text of the same folder names, with either separator between the names of folders.
+std::string fileIn(const std::string& folder, std::string_view name);
 
 /// The bytes of a plain file; nothing when there is none or it cannot be opened. Anything else that bears the name (a
 /// folder, a pipe that nobody writes to) counts as none.

@@ -196,6 +196,9 @@ void Desk::fitScroll(const Form& changed) {
   Form* frame = this->frame();
   if (frame == nullptr || changed.kind() == FormKind::Window || !frame->visible()) return;
   frame->scrollTo(frame->ScrollLeft, frame->ScrollTop);
+  if (&changed != frame) return;
+  for (Form* form : forms_)
+    form->keepInReach();  // the frame may have become smaller
 }
 
 void Desk::drop(Form& form) {

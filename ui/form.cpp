@@ -103,20 +103,33 @@ void Form::reveal() {
                   along(frame->ScrollTop, seen.height, Top, Top + Height));
 }
 
-void Form::dragTo(double left, double top) {
-  constexpr double kGrip = 60 * kTwipsPerPixel;  // what of the caption bar stays in reach
-  const Screen screen = platform().screen();
-  Area room{0, 0, screen.width * kTwipsPerPixel, screen.height * kTwipsPerPixel};
-  if (kind_ == FormKind::Child) {
-    const Form& frame = *desk().frame();
-    const double edge = floating_ ? kClientEdge : 0;
-    room = {edge, edge, frame.clientWidth(), floating_ ? frame.clientHeight() : frame.clientArea().height};
-    if (!floating_) room = frame.scrollRange();
+Area Form::dragRange() const {
+  const Form* frame = kind_ == FormKind::Child ? desk().frame() : nullptr;
+  if (frame == nullptr) {
+    const Screen screen = platform().screen();
+    return {0, 0, screen.width * kTwipsPerPixel, screen.height * kTwipsPerPixel};
   }
+  if (!floating_) return frame->scrollRange();
+  return {kClientEdge, kClientEdge + frame->barHeight(), frame->clientWidth(),
+          frame->clientHeight() - frame->barHeight()};
+}
+
+void Form::moveInReach(double left, double top) {
+  constexpr double kGrip = 60 * kTwipsPerPixel;  // what of the caption bar stays in reach
+  const Area range = dragRange();
+  const auto within = [](double at, double from, double to) { return std::clamp(at, std::min(from, to), to); };
+  move(within(left, range.left + kGrip - Width, range.right() - kGrip),
+       within(top, range.top, std::max(range.top, range.bottom() - kCaptionHeight)));
+}
+
+void Form::dragTo(double left, double top) {
   // A mouse moves by whole pixels, and the window with it.
-  const auto snapped = [](double twips) { return std::round(twips / kTwipsPerPixel) * kTwipsPerPixel; };
-  move(snapped(std::clamp(left, room.left + kGrip - Width, std::max(room.left, room.right() - kGrip))),
-       snapped(std::clamp(top, room.top, std::max(room.top, room.bottom() - kCaptionHeight))));
+  const auto whole = [](double twips) { return std::round(twips / kTwipsPerPixel) * kTwipsPerPixel; };
+  moveInReach(whole(left), whole(top));
+}
+
+void Form::keepInReach() {
+  if (floating_) moveInReach(Left, Top);
 }
 
 void Form::moveToCorner(double fromRight, double fromBottom) {

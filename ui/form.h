@@ -78,6 +78,8 @@ class Form : public PropertyOwner {
   void keepOnScreen();
   /// A hand drags the window: it goes there as far as its caption bar can still be reached.
   void dragTo(double left, double top);
+  /// Moves a floating child back to where its caption bar can be reached; one in the client area can be scrolled to.
+  void keepInReach();
   /// Scrolls the frame's client area until as much of this child is seen as fits, its left top corner at the least.
   void reveal();
 
@@ -145,6 +147,8 @@ class Form : public PropertyOwner {
   void join(Control& control);
   std::vector<Control*>& siblingsOf(const Control& control);
   void markChanged(Control& control);
+  Area dragRange() const;
+  void moveInReach(double left, double top);
 
   std::string name_;
   FormKind kind_;
