@@ -2,7 +2,6 @@
 
 #include <algorithm>
 #include <array>
-#include <charconv>
 #include <cmath>
 #include <cstdint>
 #include <cstdio>
@@ -11,6 +10,7 @@
 
 #include "bench/settingKeys.h"
 #include "state/state.h"
+#include "text/number.h"
 #include "text/textFile.h"
 
 namespace zelvs {
@@ -80,13 +80,6 @@ std::string valueOf(const Entry& entry) {
   return std::string(value.substr(0, kLongestValue));
 }
 
-/// A decimal number in full, so that reading it again gives the same: never with an exponent.
-std::string plainNumber(double number) {
-  std::array<char, 512> digits{};
-  const auto result = std::to_chars(digits.data(), digits.data() + digits.size(), number, std::chars_format::fixed);
-  return {digits.data(), result.ptr};
-}
-
 }  // namespace
 
 Profile::Profile(const std::string& path) : text_(readFile(path).value_or(std::string())) {}
@@ -122,10 +115,8 @@ double leadingNumber(std::string_view text) {
     while (digit())
       ++at;
     // The fraction is read as a whole: added up digit by digit, 0.3 would not be what 0.3 is elsewhere.
-    const std::string digits = "0." + std::string(text.substr(fraction, at - fraction)) + "0";
-    double part = 0;
-    std::from_chars(digits.data(), digits.data() + digits.size(), part);
-    number += part;
+    const std::string digits(text.substr(fraction, at - fraction));
+    number += readNumber("0." + digits + "0").value_or(0);
   }
   // "-x" is plain 0, not a negative one.
   return negative && number != 0 ? -number : number;
@@ -139,7 +130,8 @@ std::int16_t wholeNumber16(double number) {
 
 namespace {
 
-/// The leading number of a value, as text; the empty text when there is no value.
+/// The leading number of a value, as text and without an exponent, which it would be read only up to; the empty text
+/// when there is no value.
 std::string numberText(const std::string& value) {
   return value.empty() ? value : plainNumber(leadingNumber(value));
 }

@@ -1,9 +1,8 @@
 #include "ui/inspect.h"
 
-#include <array>
-#include <charconv>
 #include <cmath>
 
+#include "text/number.h"
 #include "ui/controls.h"
 #include "ui/timer.h"
 
@@ -11,9 +10,7 @@ namespace zelvs {
 
 std::string numberText(double number) {
   if (number == std::floor(number) && std::abs(number) < 1e15) return std::to_string(static_cast<long long>(number));
-  std::array<char, 32> text{};
-  const auto end = std::to_chars(text.data(), text.data() + text.size(), number).ptr;
-  return {text.data(), end};
+  return shortestNumber(number);
 }
 
 std::string quoted(std::string_view text) {

@@ -1,7 +1,10 @@
-// What a step, a tick and a start cost. Compare within one run: an empty loop stands beside the steps.
+// What a step, a tick and a start cost. Compare within one run: an empty loop stands beside the steps, and what a step
+// costs on plain integers, without controls. A step shall cost no more than three of those.
 
 #include <benchmark/benchmark.h>
 
+#include <algorithm>
+#include <ctime>
 #include <filesystem>
 #include <fstream>
 
@@ -12,6 +15,7 @@
 #include "shell/startUp.h"
 #include "shell/tick.h"
 #include "state/state.h"
+#include "support/plainModel.h"
 #include "ui/desk.h"
 #include "ui/headless/scriptedPlatform.h"
 
@@ -53,18 +57,73 @@ void emptyLoop(benchmark::State& state) {
 }
 BENCHMARK(emptyLoop);
 
-/// All five boards connected; the argument is the final station. To station 63 most polls are failures.
+/// All five boards connected and scanned up to a final station, once by the engine and once by the plain link. To
+/// station 63 most polls are failures.
+class Scan {
+ public:
+  explicit Scan(std::int64_t finalStation) {
+    chipMemory[kScrLow] = static_cast<std::uint8_t>(finalStation);
+    std::copy(chipMemory.begin(), chipMemory.end(), plain.memory.begin());
+    std::copy(saSetting.begin(), saSetting.end(), plain.sa.begin());
+    for (int i = 0; i < 1000; ++i) {
+      simulationStep();
+      plain.step();
+    }
+  }
+
+  /// True while both have done the same.
+  bool agree() const { return std::equal(plain.memory.begin(), plain.memory.end(), chipMemory.begin()); }
+
+ private:
+  Program program_;
+
+ public:
+  PlainModel plain;
+};
+
 void step(benchmark::State& state) {
-  Program program;
-  chipMemory[kScrLow] = static_cast<std::uint8_t>(state.range(0));
-  for (int i = 0; i < 1000; ++i)
-    simulationStep();
+  Scan scan(state.range(0));
   for (auto _ : state) {
     simulationStep();
     benchmark::ClobberMemory();
   }
 }
 BENCHMARK(step)->Arg(5)->Arg(63);
+
+void stepFloor(benchmark::State& state) {
+  Scan scan(state.range(0));
+  for (auto _ : state) {
+    scan.plain.step();
+    benchmark::ClobberMemory();
+  }
+}
+BENCHMARK(stepFloor)->Arg(5)->Arg(63);
+
+/// Processor time, which no other program's share of the machine gets into.
+template <class Step>
+double clocksOf(int steps, Step oneStep) {
+  const std::clock_t begin = std::clock();
+  for (int i = 0; i < steps; ++i) {
+    oneStep();
+    benchmark::ClobberMemory();
+  }
+  return static_cast<double>(std::clock() - begin);
+}
+
+/// Both in turn, so that they meet the same machine. The counter "floors" is what a step costs in steps of the floor.
+void stepInFloors(benchmark::State& state) {
+  constexpr int kSteps = 100000;
+  Scan scan(state.range(0));
+  double own = 0;
+  double floor = 0;
+  for (auto _ : state) {
+    own += clocksOf(kSteps, simulationStep);
+    floor += clocksOf(kSteps, [&] { scan.plain.step(); });
+  }
+  state.counters["floors"] = own / floor;
+  if (!scan.agree()) state.SkipWithError("the floor has not done what the engine has");
+}
+BENCHMARK(stepInFloors)->Arg(5)->Arg(63)->Unit(benchmark::kMillisecond);
 
 void runTick(benchmark::State& state) {
   Program program;

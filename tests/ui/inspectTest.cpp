@@ -1,5 +1,6 @@
 // What the script sees of controls and forms.
 
+#include <limits>
 #include <string>
 
 #include "support/program.h"
@@ -207,6 +208,23 @@ TEST(NumberText, HasAPointOnlyWhereItNeedsOne) {
       {1663.125, "1663.125"},
       {1e14, "100000000000000"},
       {0.1, "0.1"},
+  };
+  for (const auto& [number, text] : table) {
+    EXPECT_EQ(numberText(number), text);
+  }
+}
+
+TEST(NumberText, IsTheShortestWhereItIsNotWhole) {
+  const std::pair<double, const char*> table[] = {
+      {999999999999999, "999999999999999"},
+      {1e15, "1e+15"},
+      {-123456789012345680, "-123456789012345680"},
+      {1e300, "1e+300"},
+      {1.5e-7, "1.5e-07"},
+      {0.1 + 0.2, "0.30000000000000004"},
+      {std::numeric_limits<double>::infinity(), "inf"},
+      {-std::numeric_limits<double>::infinity(), "-inf"},
+      {std::numeric_limits<double>::quiet_NaN(), "nan"},
   };
   for (const auto& [number, text] : table) {
     EXPECT_EQ(numberText(number), text);
