@@ -3,8 +3,8 @@
 #include <algorithm>
 #include <charconv>
 #include <climits>
-#include <locale>
-#include <sstream>
+
+#include "text/number.h"
 
 namespace zelvs {
 
@@ -12,7 +12,6 @@ namespace {
 
 /// A carriage return is one of them: a script may come from anywhere.
 constexpr std::string_view kBlanks = " \t\r";
-constexpr std::string_view kDigits = "0123456789";
 
 /// What stands for the character behind a backslash.
 char unescaped(char c) {
@@ -50,30 +49,6 @@ std::optional<std::string> takeQuoted(std::string_view& line) {
   return std::nullopt;
 }
 
-/// Takes the digits off the front of text; the result is how many they were.
-std::size_t takeDigits(std::string_view& text) {
-  const std::size_t count = std::min(text.find_first_not_of(kDigits), text.size());
-  text.remove_prefix(count);
-  return count;
-}
-
-/// Digits with at most one point among them, and an exponent with a sign or none: what a stream would read further
-/// than that (a sign "+", blanks, hexadecimal digits, names) is no number of this language.
-bool isDecimal(std::string_view text) {
-  if (text.starts_with('-')) text.remove_prefix(1);
-  std::size_t digits = takeDigits(text);
-  if (text.starts_with('.')) {
-    text.remove_prefix(1);
-    digits += takeDigits(text);
-  }
-  if (digits == 0) return false;
-  if (text.empty()) return true;
-  if (text.front() != 'e' && text.front() != 'E') return false;
-  text.remove_prefix(1);
-  if (text.starts_with('-') || text.starts_with('+')) text.remove_prefix(1);
-  return takeDigits(text) > 0 && text.empty();
-}
-
 }  // namespace
 
 std::optional<Words> wordsOf(std::string_view line) {
@@ -107,15 +82,7 @@ std::optional<int> smallNumber(std::string_view text) {
 
 std::optional<double> anyNumber(std::string_view text) {
   if (const auto whole = wholeNumber(text)) return static_cast<double>(*whole);
-  if (!isDecimal(text)) return std::nullopt;
-  // Not every library reads a decimal number from characters, and what the desktop's locale calls a point must not
-  // matter: a stream that knows no locale reads the same everywhere.
-  std::istringstream stream{std::string(text)};
-  stream.imbue(std::locale::classic());
-  double number = 0;
-  if (!(stream >> number)) return std::nullopt;  // too large
-  const bool tooSmall = number == 0 && text.substr(0, text.find_first_of("eE")).find_first_of("123456789") != text.npos;
-  return tooSmall ? std::nullopt : std::optional(number);
+  return readNumber(text);
 }
 
 std::string noNumber(const std::string& text) {

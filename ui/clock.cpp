@@ -22,6 +22,7 @@ bool Clock::moveTo(std::int64_t end) {
     desk().timers.fireNext(now_);
     if (modal != nullptr && desk().modal() != modal) {
       owed_ = end;
+      standing_ = true;
       return false;
     }
   }
@@ -33,10 +34,10 @@ bool Clock::moveTo(std::int64_t end) {
 void Clock::follow(std::int64_t realTime) {
   const std::int64_t before = std::exchange(realTime_, realTime).value_or(realTime);
   const std::int64_t step = std::clamp<std::int64_t>(realTime - before, 0, kLongestStep);
-  if (finish()) {
+  if (!standing_ && finish()) {
     advance(step);
   } else {
-    owed_ += step;
+    owed_ = std::max(owed_, now_) + step;
   }
 }
 

@@ -23,8 +23,10 @@ class Clock {
   /// modal window has been closed.
   bool finish();
 
-  /// Moves on to a real clock's milliseconds. The first call only tells where that clock stands.
+  /// Moves on to a real clock's milliseconds. The first call only tells where that clock stands. While the opener of a
+  /// modal window that has closed has not gone on, which it tells by goOn(), time stands here too.
   void follow(std::int64_t realTime);
+  void goOn() { standing_ = false; }
   /// Milliseconds from realTime on until follow() has something to fire, 0 for at once; nothing when no timer runs.
   std::optional<std::int64_t> untilDue(std::int64_t realTime) const;
 
@@ -37,6 +39,7 @@ class Clock {
   std::int64_t now_ = 0;
   std::int64_t owed_ = 0;  // where the clock has still to get to; a time that is past owes nothing
   std::optional<std::int64_t> realTime_;
+  bool standing_ = false;  // a modal window has closed, and its opener has still to go on
 };
 
 }  // namespace zelvs

@@ -107,6 +107,7 @@ void Desk::show(Form& form, ShowMode mode, Form* owner) {
   if (mode != ShowMode::Modal) return;
   while (form.visible_ && !ended_ && platform().waitForEvent()) {
   }
+  clock.goOn();
 }
 
 void Desk::hide(Form& form) {

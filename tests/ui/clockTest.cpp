@@ -215,6 +215,20 @@ TEST_F(NestedModalTest, WhatARealClockGainsMeanwhileIsOwedToo) {
   EXPECT_EQ(clock.now(), 57);
 }
 
+TEST_F(NestedModalTest, ASecondWakeUpBeforeTheOpenerGoesOnMovesNothing) {
+  clock.follow(0);
+  wait = [this] {
+    clock.follow(50);
+    clock.follow(60);
+    EXPECT_EQ(clock.now(), 20);
+  };
+  goOn = [this] { clock.follow(60); };
+  openBoth();
+  EXPECT_EQ(logged(), (Lines{"frmInner@20", "inner has gone@20", "frmAlarm@30", "outer has gone@30"}));
+  clock.follow(60);
+  EXPECT_EQ(clock.now(), 60);
+}
+
 TEST_F(NestedModalTest, ARealClockPutBackMeanwhileTakesNothingOfWhatIsOwed) {
   clock.follow(0);
   wait = [this] { clock.follow(50); };
