@@ -25,6 +25,7 @@ done
 for name in $(ls "$build/zelvs"); do
   [ -e "$folder/$name" ] || fail "not installed: $name"
 done
+[ -f "$prefix/share/doc/zelvs/LICENSE" ] || fail "not installed: LICENSE"
 
 # The user's settings outlive an update.
 sed -i 's/^CPUTYPE=0/CPUTYPE=3/' "$folder/ZELVS.INI"
