@@ -80,8 +80,8 @@ FrmVersion::FrmVersion() : Form("frmVersion", kKind, Border::None) {
   for (Label& label : Label2)
     place(label, kTexts[static_cast<std::size_t>(label.index())]);
   Label2(6).FontBold = true;
-  place(lblVer, {"Ver,1.00", 3480, 780, 10, kTitleBlue});
-  place(lblCopyright, {"ZEL-VS Ver,1.00   学習用シミュレーター", 600, 5040, 8, 0x707070});
+  place(lblVer, {"Ver," ZELVS_VERSION, 3480, 780, 10, kTitleBlue});
+  place(lblCopyright, {"ZEL-VS Ver," ZELVS_VERSION "   学習用シミュレーター", 600, 5040, 8, 0x707070});
 
   Picture2.move(6600, 420, 1200, 1200);
   Picture2.Transparent = true;

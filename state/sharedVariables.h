@@ -1,6 +1,6 @@
 // Every shared variable of the simulator, one row each: its type, name and, for arrays, the first and last index.
-// The rows make the variables themselves (kernel/state.h) and the table by which the script reaches them by name
-// (kernel/variableNames.cpp). All start at 0. Flags hold kTrue or kFalse.
+// The rows make the variables themselves (state/state.h) and the table by which the script reaches them by name
+// (state/variableNames.cpp). All start at 0. Flags hold kTrue or kFalse.
 //
 // No include guard: whoever includes this file defines SHARED and SHARED_ARRAY first.
 

@@ -1,56 +1,55 @@
-# Sourced by ./run and ./test: installs what is missing, configures and builds. Expects $root.
+# Sourced by ./run, ./test and .ci/run: gets what is missing, configures and builds. Expects $root.
 #
-# On Debian and its relatives packages come by apt-get, as root or through sudo; anywhere else it lists what is
-# needed and stops.
+# On Debian and its relatives packages come by apt-get. Root's call installs them; anybody else is told the line that
+# does, since a build has no business asking for a password. Anywhere else the packages are listed.
 
 packages="g++ cmake ninja-build qt6-base-dev qt6-svg-dev qt6-multimedia-dev fonts-noto-cjk libgtest-dev"
 
-missing_packages() {
-  for package in $packages; do
+# missing_of PACKAGE...: prints those that are not installed, a blank before each.
+missing_of() {
+  for package; do
     dpkg-query -W -f='${Status}' "$package" 2>/dev/null | grep -q 'ok installed' || printf ' %s' "$package"
   done
 }
 
+# install_missing PACKAGE...: returns when all are there.
 install_missing() {
   if ! command -v apt-get >/dev/null 2>&1 || ! command -v dpkg-query >/dev/null 2>&1; then
     # Another system: its own packages may well be there under other names.
     command -v cmake >/dev/null 2>&1 && command -v ninja >/dev/null 2>&1 && return 0
-    echo "This system has no apt-get. Install what these Debian packages hold, then call again:"
-    echo "  $packages"
+    echo "This system has no apt-get. Install what these Debian packages hold, then call again:" >&2
+    echo "  $*" >&2
     exit 1
   fi
-  missing=$(missing_packages)
+  missing=$(missing_of "$@")
   [ -z "$missing" ] && return 0
-  as_root=
+  install="apt-get install --no-install-recommends$missing"
   if [ "$(id -u)" -ne 0 ]; then
-    if ! command -v sudo >/dev/null 2>&1; then
-      echo "These packages are missing, and there is no sudo to install them with:$missing"
-      exit 1
-    fi
-    echo "To build ZELVS these Debian packages are needed:$missing"
-    echo "They are installed with sudo, which may ask for your password."
-    as_root=sudo
-  else
-    echo "Installing:$missing"
+    echo "Debian packages are missing. This line installs them; then call again:" >&2
+    if command -v sudo >/dev/null 2>&1; then echo "  sudo $install"; else echo "  su -c '$install'"; fi >&2
+    exit 1
   fi
+  echo "Installing:$missing"
   log=$(mktemp)
-  if ! { $as_root apt-get update && DEBIAN_FRONTEND=noninteractive $as_root apt-get install -y --no-install-recommends $missing; } >"$log" 2>&1; then
-    tail -n 20 "$log"
-    echo "The packages could not be installed; the whole output is in $log."
+  if ! { apt-get update && DEBIAN_FRONTEND=noninteractive $install -y; } >"$log" 2>&1; then
+    tail -n 20 "$log" >&2
+    echo "The packages could not be installed; the whole output is in $log." >&2
     exit 1
   fi
   rm -f "$log"
 }
 
-# prepare TARGET...: builds the targets in build/.
+# prepare TARGET...: builds the targets in build/. ZELVS_PRESET names another preset of that folder than release.
 prepare() {
-  install_missing
+  install_missing $packages
   [ -d "$root/build/zelvs" ] || echo "Building ZELVS, which takes a minute or two."
-  [ -f "$root/build/build.ninja" ] || cmake -S "$root" --preset release >"$root/.configure.log" 2>&1 || {
-    cat "$root/.configure.log"
-    exit 1
-  }
-  rm -f "$root/.configure.log"
+  if [ -n "${ZELVS_PRESET:-}" ] || [ ! -f "$root/build/build.ninja" ]; then
+    cmake -S "$root" --preset "${ZELVS_PRESET:-release}" >"$root/.configure.log" 2>&1 || {
+      cat "$root/.configure.log"
+      exit 1
+    }
+    rm -f "$root/.configure.log"
+  fi
   # A build that goes well is no news; one that fails is shown whole.
   built=$(mktemp)
   if cmake --build "$root/build" --target "$@" >"$built" 2>&1; then

@@ -29,7 +29,24 @@ enum : Has {
 /// The line part of the satellite boards: what an overlay replaces.
 constexpr Rect kLinePlace = {0, 0, 450, 332};
 
+/// What the chip in the middle of a sheet has of its own beside its signals.
+struct Chip {
+  static constexpr int kSupplyPins = 4;
+  const char* name;
+  Point namePlace;
+  // The numbers of the pins along the upper edge and along the lower one, from the left.
+  int supplyPins[kSupplyPins];
+  int groundPins[kSupplyPins];
+};
+
 // Each adds what its file holds; coordinates are the sheet's unless they are given.
+/// The chip's body with its supply and ground.
+void addChip(Circuit& circuit, const Chip& chip);
+/// The same with the pins of the line and of the strobes, which are alike on QVT40 and QVT50. The caller adds what
+/// hangs on STB2, at 464, 300.
+void addSatelliteChip(Circuit& circuit, const Chip& chip);
+/// The switches on SSA and SSB, whose pins are at y and y + 16, with their pull-ups. The names of both parts are given.
+void addTimingSwitches(Circuit& circuit, int y, const char* switches, const char* array);
 /// One port, its first line at y + 60.
 void addLinePort(Circuit& circuit, int y, int block);
 /// Oscillator, divider and selector, to the chip's CLK pin.

@@ -6,21 +6,8 @@ namespace schematics {
 
 namespace {
 
-constexpr Part kChipParts[] = {
-    {kAlways, Kind::kBox, 480, 50, 130, 706},
-    {kAlways, Kind::kHead, 506, 330, 0, 0, "U1 QVT60"},
-    {kAlways, Kind::kSupply, 545, 36},
-    {kAlways, Kind::kGround, 545, 770},
-};
+constexpr Chip kChip = {"U1 QVT60", {506, 330}, {10, 35, 60, 85}, {25, 50, 75, 100}};
 constexpr Pin kChipPins[] = {
-    {kAlways, Side::kTop, 497, 50, "VCC", 10},
-    {kAlways, Side::kTop, 529, 50, "VCC", 35},
-    {kAlways, Side::kTop, 561, 50, "VCC", 60},
-    {kAlways, Side::kTop, 593, 50, "VCC", 85},
-    {kAlways, Side::kBottom, 497, 756, "GND", 25},
-    {kAlways, Side::kBottom, 529, 756, "GND", 50},
-    {kAlways, Side::kBottom, 561, 756, "GND", 75},
-    {kAlways, Side::kBottom, 593, 756, "GND", 100},
     {kAlways, Side::kLeft, 480, 76, "RXD1", 1},
     {kAlways, Side::kLeft, 480, 164, "TXE1", 2},
     {kAlways, Side::kLeft, 480, 208, "TXD1", 3},
@@ -43,12 +30,6 @@ constexpr Pin kChipPins[] = {
     {kAlways, Side::kRight, 610, 724, "#INT1", 57},
     {kAlways, Side::kLeft, 480, 704, "BUS16", 20},
     {kAlways, Side::kLeft, 480, 734, "BIG", 21},
-};
-constexpr Net kChipNets[] = {
-    {kAlways, {{{497, 36}, {593, 36}}}},
-    {kAlways, {{{497, 36}, {497, 50}}}, 4, 32},
-    {kAlways, {{{497, 770}, {593, 770}}}},
-    {kAlways, {{{497, 756}, {497, 770}}}, 4, 32},
 };
 
 // Clock, reset and lamps.
@@ -93,21 +74,32 @@ constexpr Net kLampNets[] = {
     {kAlways, {{{340, 600}, {480, 600}}}, 3, 0, 34},
 };
 
-// The bus: a buffer for each byte of data, the other lines straight.
-constexpr Part kBusParts[] = {
-    {kAlways, Kind::kBox, 1000, 60, 62, 674, "CN1 DB"},
+// A buffer for a byte of data, from the chip to the bus connector: as it stands for the lower byte.
+constexpr Part kBufferParts[] = {
     {kAlways, Kind::kBox, 760, 170, 78, 146},
-    {kAlways, Kind::kName, 793, 236, 0, 0, "U2"},
+    {kAlways, Kind::kName, 793, 236, 0, 0, "U%"},
     {kAlways, Kind::kNote, 781, 252, 0, 0, "双方向"},
     {kAlways, Kind::kNote, 790, 268, 0, 0, "BUF"},
     {kAlways, Kind::kSupply, 799, 170},
     {kAlways, Kind::kGround, 799, 316},
-    {kWide, Kind::kBox, 760, 372, 78, 146},
-    {kWide, Kind::kName, 793, 438, 0, 0, "U3"},
-    {kWide, Kind::kNote, 781, 454, 0, 0, "双方向"},
-    {kWide, Kind::kNote, 790, 470, 0, 0, "BUF"},
-    {kWide, Kind::kSupply, 799, 372},
-    {kWide, Kind::kGround, 799, 518},
+};
+constexpr Pin kBufferPins[] = {
+    {kAlways, Side::kLeft, 760, 192, "B@", 18, 8, 16, 0, -1},
+    {kAlways, Side::kRight, 838, 192, "A@", 2, 8, 16, 0},
+    {kAlways, Side::kTop, 776, 170, "DIR", 1},
+    {kAlways, Side::kTop, 799, 170, "", 20},
+    {kAlways, Side::kTop, 822, 170, "#G", 19},
+    {kAlways, Side::kBottom, 799, 316, "", 10},
+};
+constexpr Net kBufferNets[] = {
+    {kAlways, {{{610, 192}, {760, 192}}}, 8, 0, 16},
+    {kAlways, {{{838, 192}, {1000, 192}}}, 8, 0, 16},
+};
+constexpr int kUpperByteDown = 202;
+
+// The rest of the bus: the other lines go straight.
+constexpr Part kBusParts[] = {
+    {kAlways, Kind::kBox, 1000, 60, 62, 674, "CN1 DB"},
     {kWide, Kind::kNote, 640, 32, 0, 0, "16ビットバス: A0=L で下位バイト (D0-7)"},
     {kWide, Kind::kNote, 640, 48, 0, 0, "#BHE=L で上位バイト (D8-15)"},
     {kNarrow, Kind::kNote, 640, 32, 0, 0, "8ビットバス: A0 でバイトを選ぶ"},
@@ -143,18 +135,6 @@ constexpr Pin kBusPins[] = {
     {kAlways, Side::kLeft, 1000, 724, "#INT1", 34},
     {kAlways, Side::kRight, 1062, 92, "+5V", 39},
     {kAlways, Side::kRight, 1062, 700, "GND", 40},
-    {kAlways, Side::kLeft, 760, 192, "B@", 18, 8, 16, 0, -1},
-    {kAlways, Side::kRight, 838, 192, "A@", 2, 8, 16, 0},
-    {kAlways, Side::kTop, 776, 170, "DIR", 1},
-    {kAlways, Side::kTop, 799, 170, "", 20},
-    {kAlways, Side::kTop, 822, 170, "#G", 19},
-    {kAlways, Side::kBottom, 799, 316, "", 10},
-    {kWide, Side::kLeft, 760, 394, "B@", 18, 8, 16, 0, -1},
-    {kWide, Side::kRight, 838, 394, "A@", 2, 8, 16, 0},
-    {kWide, Side::kTop, 776, 372, "DIR", 1},
-    {kWide, Side::kTop, 799, 372, "", 20},
-    {kWide, Side::kTop, 822, 372, "#G", 19},
-    {kWide, Side::kBottom, 799, 518, "", 10},
     {kNarrow, Side::kRight, 736, 361, ""},
     {kNarrow, Side::kBottom, 648, 370, "", 0, 8, 10},
 };
@@ -164,10 +144,6 @@ constexpr Net kBusNets[] = {
     {kNarrow, {{{610, 140}, {640, 140}}}},
     {kNarrow, {{{686, 140}, {700, 140}}}},
     {kNarrow, {{{978, 140}, {1000, 140}}}},
-    {kAlways, {{{610, 192}, {760, 192}}}, 8, 0, 16},
-    {kAlways, {{{838, 192}, {1000, 192}}}, 8, 0, 16},
-    {kWide, {{{610, 394}, {760, 394}}}, 8, 0, 16},
-    {kWide, {{{838, 394}, {1000, 394}}}, 8, 0, 16},
     {kNarrow, {{{610, 394}, {648, 394}}}, 8, 0, 16, {10, 0}},
     {kNarrow, {{{648, 370}, {648, 394}}}, 8, 10, 0, {0, 16}},
     {kNarrow, {{{736, 361}, {752, 361}}}},
@@ -193,8 +169,12 @@ Circuit centerBoard(Has has) {
   Circuit circuit(has | kCenter);
   addLinePort(circuit, 16, 1);
   addLinePort(circuit, 234, 2);
-  circuit.add({kChipParts, kChipPins, kChipNets});
+  addChip(circuit, kChip);
+  circuit.add({{}, kChipPins, {}});
   circuit.add({kLampParts, kLampPins, kLampNets});
+  const Tables buffer = {kBufferParts, kBufferPins, kBufferNets};
+  circuit.add(buffer, 0, 0, 2);
+  if (has & kWide) circuit.add(buffer, 0, kUpperByteDown, 3);
   circuit.add({kBusParts, kBusPins, kBusNets});
   addPower(circuit, 20, 704);
   const std::string lines = has & kFull ? "全2重 " : "半2重 ";

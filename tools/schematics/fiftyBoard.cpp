@@ -8,45 +8,18 @@ namespace schematics {
 
 namespace {
 
+constexpr Chip kChip = {"U1 QVT50", {512, 600}, {6, 26, 46, 77}, {14, 34, 57, 80}};
 constexpr Part kChipParts[] = {
-    {kAlways, Kind::kBox, 480, 50, 130, 706},
-    {kAlways, Kind::kHead, 512, 600, 0, 0, "U1 QVT50"},
-    {kAlways, Kind::kSupply, 545, 36},
-    {kAlways, Kind::kGround, 545, 770},
-    {kAlways, Kind::kTest, 464, 260, 0, 0, "TP1"},
     {kPlain, Kind::kTest, 464, 300, 0, 0, "TP2"},
     {kPwm, Kind::kOpen, 464, 300},
 };
 constexpr Pin kChipPins[] = {
-    {kAlways, Side::kTop, 497, 50, "VCC", 6},
-    {kAlways, Side::kTop, 529, 50, "VCC", 26},
-    {kAlways, Side::kTop, 561, 50, "VCC", 46},
-    {kAlways, Side::kTop, 593, 50, "VCC", 77},
-    {kAlways, Side::kBottom, 497, 756, "GND", 14},
-    {kAlways, Side::kBottom, 529, 756, "GND", 34},
-    {kAlways, Side::kBottom, 561, 756, "GND", 57},
-    {kAlways, Side::kBottom, 593, 756, "GND", 80},
-    {kAlways, Side::kLeft, 480, 76, "RXD", 1},
-    {kAlways, Side::kLeft, 480, 164, "TXE", 2},
-    {kAlways, Side::kLeft, 480, 208, "TXD", 3},
-    {kAlways, Side::kLeft, 480, 260, "STB1", 4},
-    {kAlways, Side::kLeft, 480, 300, "STB2", 5},
-    {kAlways, Side::kLeft, 480, 392, "IOS@", 8, 3, 16, 0},
-    {kAlways, Side::kLeft, 480, 456, "CM@", 11, 2, 16, 0},
-    {kAlways, Side::kLeft, 480, 504, "BPSS", 13},
-    {kAlways, Side::kLeft, 480, 560, "SA@", 15, 4, 16, 0},
-    {kAlways, Side::kLeft, 480, 632, "SA@", 19, 2, 16, 4},
-    {kAlways, Side::kLeft, 480, 680, "#CLR", 22},
-    {kAlways, Side::kLeft, 480, 704, "#RESET", 23},
-    {kAlways, Side::kLeft, 480, 736, "#MON", 24},
-    {kAlways, Side::kRight, 610, 76, "CLK", 79},
-    {kAlways, Side::kRight, 610, 540, "SSA", 50},
+    {kAlways, Side::kLeft, 480, 392, "IOS@", 8, 3, 16, 0}, {kAlways, Side::kLeft, 480, 456, "CM@", 11, 2, 16, 0},
+    {kAlways, Side::kLeft, 480, 504, "BPSS", 13},          {kAlways, Side::kLeft, 480, 560, "SA@", 15, 4, 16, 0},
+    {kAlways, Side::kLeft, 480, 632, "SA@", 19, 2, 16, 4}, {kAlways, Side::kLeft, 480, 680, "#CLR", 22},
+    {kAlways, Side::kLeft, 480, 704, "#RESET", 23},        {kAlways, Side::kLeft, 480, 736, "#MON", 24},
+    {kAlways, Side::kRight, 610, 76, "CLK", 79},           {kAlways, Side::kRight, 610, 540, "SSA", 50},
     {kAlways, Side::kRight, 610, 556, "SSB", 49},
-};
-constexpr Net kChipNets[] = {
-    {kAlways, {{{497, 36}, {593, 36}}}},   {kAlways, {{{497, 36}, {497, 50}}}, 4, 32},
-    {kAlways, {{{497, 770}, {593, 770}}}}, {kAlways, {{{497, 756}, {497, 770}}}, 4, 32},
-    {kAlways, {{{464, 260}, {480, 260}}}}, {kAlways, {{{464, 300}, {480, 300}}}},
 };
 
 // The settings: mode, address and timing; the buttons; the MON lamp.
@@ -76,12 +49,6 @@ constexpr Part kSettingParts[] = {
     {kAlways, Kind::kSupply, 300, 736},
     {kAlways, Kind::kResistor, 312, 736, 46, 0, "R1", "330Ω"},
     {kAlways, Kind::kLed, 376, 736, 40, 0, "LED16 MON", "green"},
-    {kPlain, Kind::kFrame, 686, 533, 30, 30, ""},
-    {kPlain, Kind::kClosed, 674, 540, 54, 0, "", "", 2, 0, 16},
-    {kPlain, Kind::kName, 784, 548, 0, 0, "SW8"},
-    {kPlain, Kind::kGround, 774, 566},
-    {kPlain, Kind::kArray, 626, 580, 84, 18, "RN5 10kΩ×2"},
-    {kPlain, Kind::kSupply, 728, 589},
     {kPwm, Kind::kOpen, 634, 540, 0, 0, "", "", 2, 0, 16},
     {kPwm, Kind::kNote, 646, 548, 0, 0, "PWM では SSA, SSB, STB2 は使わない"},
 };
@@ -92,8 +59,6 @@ constexpr Pin kSettingPins[] = {
     {kAlways, Side::kRight, 112, 592, "4"}, {kAlways, Side::kRight, 112, 608, "8"},
     {kAlways, Side::kRight, 112, 632, "1"}, {kAlways, Side::kRight, 112, 648, "2"},
     {kAlways, Side::kLeft, 60, 584, ""},    {kAlways, Side::kLeft, 60, 641, ""},
-    {kPlain, Side::kTop, 636, 580, ""},     {kPlain, Side::kTop, 650, 580, ""},
-    {kPlain, Side::kRight, 710, 589, ""},
 };
 constexpr Net kSettingNets[] = {
     {kAlways, {{{168, 359}, {180, 359}}}},
@@ -124,12 +89,6 @@ constexpr Net kSettingNets[] = {
     {kAlways, {{{300, 736}, {312, 736}}}},
     {kAlways, {{{358, 736}, {376, 736}}}},
     {kAlways, {{{416, 736}, {480, 736}}}},
-    {kPlain, {{{610, 540}, {674, 540}}}, 2, 0, 16},
-    {kPlain, {{{728, 540}, {774, 540}, {774, 566}}}},
-    {kPlain, {{{728, 556}, {774, 556}}}},
-    {kPlain, {{{636, 580}, {636, 540}}}},
-    {kPlain, {{{650, 580}, {650, 556}}}},
-    {kPlain, {{{710, 589}, {728, 589}}}},
     {kPwm, {{{610, 540}, {634, 540}}}, 2, 0, 16},
 };
 
@@ -289,8 +248,10 @@ Circuit fiftyBoard(Has has, int mode) {
                                : kAlways));
   addLinePort(circuit, 16, 1);
   addClock(circuit);
-  circuit.add({kChipParts, kChipPins, kChipNets});
+  addSatelliteChip(circuit, kChip);
+  circuit.add({kChipParts, kChipPins, {}});
   circuit.add({kSettingParts, kSettingPins, kSettingNets});
+  if (!pwm) addTimingSwitches(circuit, 540, "SW8", "RN5 10kΩ×2");
   for (int bit = 0; bit < 3; ++bit) {
     // A closed switch is low.
     circuit.add(Part{kAlways, mode >> bit & 1 ? Kind::kSwitch : Kind::kClosed, 62, 392 + 16 * bit, 52});

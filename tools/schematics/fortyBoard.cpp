@@ -7,28 +7,11 @@ namespace schematics {
 
 namespace {
 
+constexpr Chip kChip = {"U1 QVT40", {512, 340}, {6, 35, 63, 90}, {23, 53, 80, 100}};
 constexpr Part kChipParts[] = {
-    {kAlways, Kind::kBox, 480, 50, 130, 706},
-    {kAlways, Kind::kHead, 512, 340, 0, 0, "U1 QVT40"},
-    {kAlways, Kind::kSupply, 545, 36},
-    {kAlways, Kind::kGround, 545, 770},
-    {kAlways, Kind::kTest, 464, 260, 0, 0, "TP1"},
     {kAlways, Kind::kTest, 464, 300, 0, 0, "TP2"},
 };
 constexpr Pin kChipPins[] = {
-    {kAlways, Side::kTop, 497, 50, "VCC", 6},
-    {kAlways, Side::kTop, 529, 50, "VCC", 35},
-    {kAlways, Side::kTop, 561, 50, "VCC", 63},
-    {kAlways, Side::kTop, 593, 50, "VCC", 90},
-    {kAlways, Side::kBottom, 497, 756, "GND", 23},
-    {kAlways, Side::kBottom, 529, 756, "GND", 53},
-    {kAlways, Side::kBottom, 561, 756, "GND", 80},
-    {kAlways, Side::kBottom, 593, 756, "GND", 100},
-    {kAlways, Side::kLeft, 480, 76, "RXD", 1},
-    {kAlways, Side::kLeft, 480, 164, "TXE", 2},
-    {kAlways, Side::kLeft, 480, 208, "TXD", 3},
-    {kAlways, Side::kLeft, 480, 260, "STB1", 4},
-    {kAlways, Side::kLeft, 480, 300, "STB2", 5},
     {kAlways, Side::kLeft, 480, 384, "DI@", 7, 8, 14, 0},
     {kAlways, Side::kLeft, 480, 508, "DI@", 15, 8, 14, 8},
     {kAlways, Side::kLeft, 480, 634, "CT@", 24, 6, 14, 1},
@@ -48,11 +31,6 @@ constexpr Pin kChipPins[] = {
     {kAlways, Side::kRight, 610, 690, "SCK", 57},
     {kAlways, Side::kRight, 610, 704, "SLD", 56},
     {kAlways, Side::kRight, 610, 734, "SE", 54},
-};
-constexpr Net kChipNets[] = {
-    {kAlways, {{{497, 36}, {593, 36}}}},   {kAlways, {{{497, 36}, {497, 50}}}, 4, 32},
-    {kAlways, {{{497, 770}, {593, 770}}}}, {kAlways, {{{497, 756}, {497, 770}}}, 4, 32},
-    {kAlways, {{{464, 260}, {480, 260}}}}, {kAlways, {{{464, 300}, {480, 300}}}},
 };
 
 // Inputs and buttons: pulled up, to ground when closed.
@@ -109,73 +87,40 @@ constexpr Net kInputNets[] = {
     {kAlways, {{{220, 736}, {220, 750}}}},
 };
 
-// Outputs and timing switches.
+// Outputs.
 constexpr Part kOutputParts[] = {
     {kAlways, Kind::kName, 636, 356, 0, 0, "RN5, RN6 330Ω×8"},
     {kAlways, Kind::kResistor, 632, 372, 46, 0, "", "", 16, 0, 14},
     {kAlways, Kind::kLed, 692, 372, 36, 0, "", "green", 16, 0, 14},
     {kAlways, Kind::kName, 756, 372, 0, 0, "LED@", "", 16, 0, 14, 0},
     {kAlways, Kind::kGround, 748, 586},
-    {kAlways, Kind::kFrame, 686, 599, 30, 30, ""},
-    {kAlways, Kind::kClosed, 674, 606, 54, 0, "", "", 2, 0, 16},
-    {kAlways, Kind::kName, 784, 614, 0, 0, "SW13"},
-    {kAlways, Kind::kGround, 774, 632},
-    {kAlways, Kind::kArray, 626, 646, 84, 18, "RN7 10kΩ×2"},
-    {kAlways, Kind::kSupply, 728, 655},
     {kAlways, Kind::kLed, 632, 734, 40, 1, "LED16 SE", "green"},
     {kAlways, Kind::kResistor, 684, 734, 46, 0, "R3", "330Ω"},
     {kAlways, Kind::kSupply, 748, 734},
-};
-constexpr Pin kOutputPins[] = {
-    {kAlways, Side::kTop, 636, 646, ""},
-    {kAlways, Side::kTop, 650, 646, ""},
-    {kAlways, Side::kRight, 710, 655, ""},
 };
 constexpr Net kOutputNets[] = {
     {kAlways, {{{610, 372}, {632, 372}}}, 16, 0, 14},
     {kAlways, {{{678, 372}, {692, 372}}}, 16, 0, 14},
     {kAlways, {{{728, 372}, {748, 372}, {748, 586}}}},
     {kAlways, {{{728, 386}, {748, 386}}}, 15, 0, 14},
-    {kAlways, {{{610, 606}, {674, 606}}}, 2, 0, 16},
-    {kAlways, {{{728, 606}, {774, 606}, {774, 632}}}},
-    {kAlways, {{{728, 622}, {774, 622}}}},
-    {kAlways, {{{636, 646}, {636, 606}}}},
-    {kAlways, {{{650, 646}, {650, 622}}}},
-    {kAlways, {{{710, 655}, {728, 655}}}},
     {kAlways, {{{610, 734}, {632, 734}}}},
     {kAlways, {{{672, 734}, {684, 734}}}},
     {kAlways, {{{730, 734}, {748, 734}}}},
 };
 
-// The serial input: two shift registers behind each other, each loaded from eight switches.
+// The serial input: two shift registers behind each other, each loaded from eight switches. First what tells the two
+// apart or joins them, then what each of them has.
+constexpr int kRegisterDown = 104;  // from one register to the next
 constexpr Part kSerialParts[] = {
-    {kAlways, Kind::kName, 862, 456, 0, 0, "U3"},
-    {kAlways, Kind::kName, 862, 560, 0, 0, "U4"},
     {kAlways, Kind::kNote, 948, 452, 0, 0, "シリアル入力 16bit"},
-    {kAlways, Kind::kBox, 862, 466, 84, 74, "", "", 2, 0, 104},
-    {kAlways, Kind::kNote, 889, 482, 0, 0, "SHIFT REG", "", 2, 0, 104},
-    {kAlways, Kind::kSupply, 904, 466, 0, 0, "", "", 2, 0, 104},
-    {kAlways, Kind::kGround, 930, 540, 0, 0, "", "", 2, 0, 104},
+    {kAlways, Kind::kName, 862, 456, 0, 0, "U@", "", 2, 0, kRegisterDown, 3},
+    {kAlways, Kind::kArray, 972, 466, 90, 18, "RN@ 10kΩ×8", "", 2, 0, kRegisterDown, 8},
+    {kAlways, Kind::kName, 984, 544, 0, 0, "SW@", "", 2, 0, kRegisterDown, 14},
     {kAlways, Kind::kGround, 848, 642},
-    {kAlways, Kind::kArray, 972, 466, 90, 18, "RN@ 10kΩ×8", "", 2, 0, 104, 8},
-    {kAlways, Kind::kSupply, 1074, 475, 0, 0, "", "", 2, 0, 104},
-    {kAlways, Kind::kBox, 984, 502, 66, 32, "", "DIP×8", 2, 0, 104},
-    {kAlways, Kind::kName, 984, 544, 0, 0, "SW@", "", 2, 0, 104, 14},
-    {kAlways, Kind::kGround, 1070, 526, 0, 0, "", "", 2, 0, 104},
-    {kAlways, Kind::kBus, 955, 518, 0, 0, "8", "", 2, 0, 104},
 };
 constexpr Pin kSerialPins[] = {
-    {kAlways, Side::kLeft, 862, 480, "Q", 9},    {kAlways, Side::kLeft, 862, 494, "CK", 2},
-    {kAlways, Side::kLeft, 862, 508, "S/L", 1},  {kAlways, Side::kLeft, 862, 522, "DS", 10},
-    {kAlways, Side::kLeft, 862, 584, "Q", 9},    {kAlways, Side::kLeft, 862, 598, "CK", 2},
-    {kAlways, Side::kLeft, 862, 612, "S/L", 1},  {kAlways, Side::kLeft, 862, 626, "DS", 10},
-    {kAlways, Side::kTop, 904, 466, "", 16},     {kAlways, Side::kTop, 904, 570, "", 16},
-    {kAlways, Side::kBottom, 930, 540, "", 8},   {kAlways, Side::kBottom, 930, 644, "", 8},
-    {kAlways, Side::kRight, 946, 518, "SI8-15"}, {kAlways, Side::kRight, 946, 622, "SI0-7"},
-    {kAlways, Side::kLeft, 972, 475, ""},        {kAlways, Side::kLeft, 972, 579, ""},
-    {kAlways, Side::kRight, 1062, 475, ""},      {kAlways, Side::kRight, 1062, 579, ""},
-    {kAlways, Side::kLeft, 984, 518, ""},        {kAlways, Side::kLeft, 984, 622, ""},
-    {kAlways, Side::kRight, 1050, 518, ""},      {kAlways, Side::kRight, 1050, 622, ""},
+    {kAlways, Side::kRight, 946, 518, "SI8-15"},
+    {kAlways, Side::kRight, 946, 622, "SI0-7"},
 };
 constexpr Net kSerialNets[] = {
     {kAlways, {{{610, 676}, {816, 676}, {816, 480}, {862, 480}}}},
@@ -185,10 +130,25 @@ constexpr Net kSerialNets[] = {
     {kAlways, {{{836, 612}, {862, 612}}}},
     {kAlways, {{{862, 584}, {846, 584}, {846, 522}, {862, 522}}}},
     {kAlways, {{{862, 626}, {848, 626}, {848, 642}}}},
-    {kAlways, {{{946, 518}, {984, 518}}}, 2, 0, 104},
-    {kAlways, {{{972, 475}, {966, 475}, {966, 518}}}, 2, 0, 104},
-    {kAlways, {{{1062, 475}, {1074, 475}}}, 2, 0, 104},
-    {kAlways, {{{1050, 518}, {1070, 518}, {1070, 526}}}, 2, 0, 104},
+};
+constexpr Part kRegisterParts[] = {
+    {kAlways, Kind::kBox, 862, 466, 84, 74}, {kAlways, Kind::kNote, 889, 482, 0, 0, "SHIFT REG"},
+    {kAlways, Kind::kSupply, 904, 466},      {kAlways, Kind::kGround, 930, 540},
+    {kAlways, Kind::kSupply, 1074, 475},     {kAlways, Kind::kBox, 984, 502, 66, 32, "", "DIP×8"},
+    {kAlways, Kind::kGround, 1070, 526},     {kAlways, Kind::kBus, 955, 518, 0, 0, "8"},
+};
+constexpr Pin kRegisterPins[] = {
+    {kAlways, Side::kLeft, 862, 480, "Q", 9},   {kAlways, Side::kLeft, 862, 494, "CK", 2},
+    {kAlways, Side::kLeft, 862, 508, "S/L", 1}, {kAlways, Side::kLeft, 862, 522, "DS", 10},
+    {kAlways, Side::kTop, 904, 466, "", 16},    {kAlways, Side::kBottom, 930, 540, "", 8},
+    {kAlways, Side::kLeft, 972, 475, ""},       {kAlways, Side::kRight, 1062, 475, ""},
+    {kAlways, Side::kLeft, 984, 518, ""},       {kAlways, Side::kRight, 1050, 518, ""},
+};
+constexpr Net kRegisterNets[] = {
+    {kAlways, {{{946, 518}, {984, 518}}}},
+    {kAlways, {{{972, 475}, {966, 475}, {966, 518}}}},
+    {kAlways, {{{1062, 475}, {1074, 475}}}},
+    {kAlways, {{{1050, 518}, {1070, 518}, {1070, 526}}}},
 };
 
 // The address switches, and the connector that hands line, clock and address to a slave.
@@ -288,10 +248,14 @@ constexpr Net kSlaveNets[] = {
 
 Circuit fortyBoard(Has has) {
   Circuit circuit(has | kForty | (has & kSlave ? kAlways : kStation));
-  circuit.add({kChipParts, kChipPins, kChipNets});
+  addSatelliteChip(circuit, kChip);
+  circuit.add({kChipParts, kChipPins, {}});
   circuit.add({kInputParts, kInputPins, kInputNets});
-  circuit.add({kOutputParts, kOutputPins, kOutputNets});
+  circuit.add({kOutputParts, {}, kOutputNets});
+  addTimingSwitches(circuit, 606, "SW13", "RN7 10kΩ×2");
   circuit.add({kSerialParts, kSerialPins, kSerialNets});
+  for (const int down : {0, kRegisterDown})
+    circuit.add({kRegisterParts, kRegisterPins, kRegisterNets}, 0, down);
   addPower(circuit, 850, 668);
   if (has & kSlave) {
     circuit.add({kSlaveParts, kSlavePins, kSlaveNets});
