@@ -104,7 +104,7 @@ class TextBox : public Control {
   Property<std::string> Text{this};
   Property<int> SelStart{this, 0};
   Property<int> SelLength{this, 0};
-  Property<int> MaxLength{this, 0};  ///< 0: no limit
+  Property<int> MaxLength{this, 0};        ///< 0: no limit
   Property<bool> KeepsEnter{this, false};  ///< Enter is the field's own: no button answers it from there
 
   /// May change the character; 0 drops it.

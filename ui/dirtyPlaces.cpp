@@ -27,8 +27,8 @@ Area placeOfLine(const Line& line) {
 /// What the control takes of the window now; empty when it is hidden.
 Area placeOf(const Control& control) {
   if (!control.shown()) return {};
-  const Area place = control.kind() == ControlKind::Line ? placeOfLine(static_cast<const Line&>(control))
-                                                         : control.area();
+  const Area place =
+      control.kind() == ControlKind::Line ? placeOfLine(static_cast<const Line&>(control)) : control.area();
   return place.shrunk(-kMargin);
 }
 

@@ -128,6 +128,11 @@ void Form::dragTo(double left, double top) {
   moveInReach(whole(left), whole(top));
 }
 
+void Form::drawWider(double width) {
+  constexpr double kLeastWidth = 200 * kTwipsPerPixel;
+  Width = std::clamp(width, kLeastWidth, std::max(kLeastWidth, platform().screen().width * kTwipsPerPixel));
+}
+
 void Form::keepInReach() {
   if (floating_) moveInReach(Left, Top);
 }
@@ -150,8 +155,8 @@ double Form::insideLeft() const {
 double Form::insideTop() const {
   const Form* frame = kind_ == FormKind::Child ? desk().frame() : nullptr;
   const double above = frame == nullptr ? 0
-                       : floating_     ? frame->insideTop() - kClientEdge
-                                       : frame->clientAreaTop() - frame->ScrollTop;
+                       : floating_      ? frame->insideTop() - kClientEdge
+                                        : frame->clientAreaTop() - frame->ScrollTop;
   return above + Top + (Height - clientHeight());
 }
 

@@ -78,6 +78,8 @@ class Form : public PropertyOwner {
   void keepOnScreen();
   /// A hand drags the window: it goes there as far as its caption bar can still be reached.
   void dragTo(double left, double top);
+  /// A hand draws the window wider or narrower, in twips: from a least width to that of the screen.
+  void drawWider(double width);
   /// Moves a floating child back to where its caption bar can be reached; one in the client area can be scrolled to.
   void keepInReach();
   /// Scrolls the frame's client area until as much of this child is seen as fits, its left top corner at the least.

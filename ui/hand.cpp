@@ -28,12 +28,21 @@ Control* hitBy(const Form& form, const Spot& spot) {
 
 void Hand::move(Form* form, const Spot& spot) {
   const Desk::Event event;
-  if (part_ == Part::Caption) {
-    Form& held = formOf(held_);
-    held.dragTo(held.Left + spot.x - grip_.x, held.Top + spot.y - grip_.y);
+  if (part_ == Part::Caption || part_ == Part::LeftEdge || part_ == Part::RightEdge) {
+    drag(formOf(held_), spot);
   } else if (form != nullptr) {
     gesture::move(*form, hitBy(*form, spot));
   }
+}
+
+void Hand::drag(Form& form, const Spot& spot) {
+  if (part_ == Part::Caption) {
+    form.dragTo(form.Left + spot.x - grip_.x, form.Top + spot.y - grip_.y);
+    return;
+  }
+  // Counted on the screen: a window that is made wider may move to stay in its corner.
+  const double moved = form.insideLeft() + spot.x - grip_.x;
+  form.drawWider(gripWidth_ + (part_ == Part::LeftEdge ? -moved : moved));
 }
 
 void Hand::down(Form& form, const Spot& spot, bool second, bool named) {
@@ -48,6 +57,12 @@ void Hand::down(Form& form, const Spot& spot, bool second, bool named) {
       break;
     case FramePart::CloseBox:
       part_ = Part::CloseBox;
+      break;
+    case FramePart::LeftEdge:
+    case FramePart::RightEdge:
+      part_ = part == FramePart::LeftEdge ? Part::LeftEdge : Part::RightEdge;
+      grip_ = {form.insideLeft() + spot.x, form.insideTop() + spot.y};
+      gripWidth_ = form.Width;
       break;
     case FramePart::Inside:
       part_ = Part::Inside;
@@ -71,8 +86,7 @@ bool Hand::begin(const Target& target, bool second, bool named) {
   const bool turned = gesture::turnTo(formOf(target), control).empty();
   // Turning may have shown a modal window, which took the mouse, or have taken away what was pressed. A gesture by name
   // goes on behind the modal window, whatever other gestures were made in it.
-  const bool still =
-      turned && (named || held_ == target) && gesture::refusal(formOf(target), control).empty();
+  const bool still = turned && (named || held_ == target) && gesture::refusal(formOf(target), control).empty();
   held_ = still ? target : Target{};
   named_ = named;
   return still;

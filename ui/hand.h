@@ -30,7 +30,8 @@ class Hand {
     friend bool operator==(const Target&, const Target&) = default;
   };
 
-  /// The pointer has moved over a form, or beside all of them. A held caption bar drags its window along.
+  /// The pointer has moved over a form, or beside all of them. A held caption bar drags its window along, a held edge
+  /// makes it wider.
   void move(Form* form, const Spot& spot);
   /// The left button goes down. second: as the second press of a double click, which belongs to the control that had
   /// the first press or to nobody. named: for a gesture that is made by its name, which nothing interrupts.
@@ -56,14 +57,16 @@ class Hand {
   bool key(const Key& key);
 
  private:
-  enum class Part { Nothing, Turning, Inside, Caption, CloseBox };
+  enum class Part { Nothing, Turning, Inside, Caption, CloseBox, LeftEdge, RightEdge };
   bool begin(const Target& target, bool second, bool named);
+  void drag(Form& form, const Spot& spot);
 
   Target held_;
   Target last_;  // the press that a second one may follow
   Part part_ = Part::Nothing;
   bool named_ = false;
-  Spot grip_;  // where the caption bar is held
+  Spot grip_;  // where the caption bar is held; of an edge, the place on the screen
+  double gripWidth_ = 0;
 };
 
 }  // namespace zelvs

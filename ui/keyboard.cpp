@@ -131,7 +131,8 @@ bool keyInText(TextBox& text, const Key& key) {
     }
     return true;
   }
-  const bool moves = key.code == key::kLeft || key.code == key::kRight || key.code == key::kHome || key.code == key::kEnd;
+  const bool moves =
+      key.code == key::kLeft || key.code == key::kRight || key.code == key::kHome || key.code == key::kEnd;
   if (moves) keyForControl(text, key.code, 0);
   if (key.code == 'A') keyForControl(text, key::kHome, 0);
   return moves || key.code == 'A';
@@ -140,13 +141,13 @@ bool keyInText(TextBox& text, const Key& key) {
 }  // namespace
 
 CommandButton* answersEnter(const Form& form) {
-  const Control* focused = desk().focused() != nullptr && &desk().focused()->form() == &form ? desk().focused()
-                                                                                              : form.activeControl();
+  const Control* focused =
+      desk().focused() != nullptr && &desk().focused()->form() == &form ? desk().focused() : form.activeControl();
   if (focused != nullptr && focused->kind() == ControlKind::CommandButton && focused->shown() && focused->usable()) {
     return static_cast<CommandButton*>(const_cast<Control*>(focused));
   }
-  const bool kept = focused != nullptr && focused->kind() == ControlKind::TextBox &&
-                    static_cast<const TextBox*>(focused)->KeepsEnter;
+  const bool kept =
+      focused != nullptr && focused->kind() == ControlKind::TextBox && static_cast<const TextBox*>(focused)->KeepsEnter;
   return kept ? nullptr : buttonWith(form, &CommandButton::Default);
 }
 

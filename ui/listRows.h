@@ -20,8 +20,8 @@ double rowHeightOf(const Control& list);
 /// How many whole rows the list shows at once, at least 1.
 int visibleRowsOf(const Control& list);
 
-/// Row that a key leads to from row, -1 for none: an arrow, Home, End, Page up or down, or a letter or digit, which goes
-/// to the next row that begins with it, round the end. The row itself for every other key.
+/// Row that a key leads to from row, -1 for none: an arrow, Home, End, Page up or down, or a letter or digit, which
+/// goes to the next row that begins with it, round the end. The row itself for every other key.
 int rowByKey(const Control& list, int row, int code, char32_t character);
 
 }  // namespace zelvs

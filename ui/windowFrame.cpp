@@ -24,8 +24,7 @@ bool clippedAway(const Form& form, double x, double y) {
   const Form* frame = form.kind() == FormKind::Child ? desk().frame() : nullptr;
   if (frame == nullptr) return false;
   const double top = form.floating() ? frame->insideTop() : frame->clientAreaTop();
-  const Area shown{frame->insideLeft(), top, frame->clientWidth(),
-                   frame->insideTop() + frame->clientHeight() - top};
+  const Area shown{frame->insideLeft(), top, frame->clientWidth(), frame->insideTop() + frame->clientHeight() - top};
   return !shown.contains(x, y);
 }
 
@@ -37,6 +36,11 @@ Area closeBoxOf(const Form& form) {
 }
 
 FramePart framePartAt(const Form& form, const Spot& spot) {
+  constexpr double kEdge = 5 * kPixel;
+  if (form.kind() == FormKind::Window && form.border() == Border::Sizable) {
+    if (spot.x < kEdge) return FramePart::LeftEdge;
+    if (spot.x >= form.Width - kEdge) return FramePart::RightEdge;
+  }
   if (spot.y >= 0) return FramePart::Inside;
   return closeBoxOf(form).contains(spot.x, spot.y) ? FramePart::CloseBox : FramePart::Caption;
 }

@@ -7,11 +7,11 @@ namespace zelvs {
 
 class Form;
 
-// The frame round a window's inside, where a backend draws it itself: a caption bar with a title, and a close box where
-// the form has one. Side borders count as nothing. Places are twips from the left top of the inside, so that the
-// caption bar lies above 0.
+// The frame round a window's inside: a caption bar with a title, a close box where the form has one, and edges that a
+// sizable one is drawn wider by. Side borders count as nothing. Places are twips from the left top of the inside, so
+// that the caption bar lies above 0.
 
-enum class FramePart { Inside, Caption, CloseBox };
+enum class FramePart { Inside, Caption, CloseBox, LeftEdge, RightEdge };
 
 /// What lies at a place of a form's window.
 FramePart framePartAt(const Form& form, const Spot& spot);

@@ -9,6 +9,7 @@
 #include "qt/support/desktop.h"
 #include "shell/frmMDI.h"
 #include "ui/qt/clientArea.h"
+#include "ui/qt/formWindow.h"
 
 namespace zelvs {
 namespace {
@@ -21,13 +22,13 @@ class FloatingTest : public DesktopTest {
     EXPECT_EQ(hands().click(control.form(), &control), "");
     settle();
   }
-  static ChildWindow* windowOf(const Form* form) { return qobject_cast<ChildWindow*>(canvasOf(form)->parentWidget()); }
+  static FormWindow* windowOf(const Form* form) { return qobject_cast<FormWindow*>(canvasOf(form)->parentWidget()); }
   /// The area of the other children that it lies in, null when it lies in the frame itself.
-  static ClientArea* areaOf(const ChildWindow& window) {
+  static ClientArea* areaOf(const FormWindow& window) {
     return qobject_cast<ClientArea*>(window.parentWidget()->parentWidget());
   }
   /// What the user sees at the middle of the memory window.
-  static QWidget* seen(const ChildWindow& window) {
+  static QWidget* seen(const FormWindow& window) {
     QWidget* frame = window.window();
     QWidget* widget = frame->childAt(window.mapTo(frame, window.rect().center()));
     while (widget != nullptr && qobject_cast<Canvas*>(widget) == nullptr)
@@ -37,7 +38,7 @@ class FloatingTest : public DesktopTest {
 };
 
 TEST_F(FloatingTest, ItStaysInFrontOfThePanelAndComesBackToItsPlace) {
-  ChildWindow* window = windowOf(frmDumpDRC.form());
+  FormWindow* window = windowOf(frmDumpDRC.form());
   ASSERT_NE(window, nullptr);
   // Over the panel.
   frmDumpDRC->move(1500, 3000);
@@ -67,7 +68,7 @@ TEST_F(FloatingTest, ItStaysInFrontOfThePanelAndComesBackToItsPlace) {
 
 TEST_F(FloatingTest, ThePlaceThatTheUserGivesItIsTheModels) {
   click(frmDumpDRC->chkTopMost);
-  ChildWindow* window = windowOf(frmDumpDRC.form());
+  FormWindow* window = windowOf(frmDumpDRC.form());
   frmDumpDRC->dragTo(300 * 15 + 30.0, 200 * 15 + 30.0);
   settle();
   EXPECT_EQ(window->pos(), QPoint(300, 200));
@@ -80,7 +81,7 @@ TEST_F(FloatingTest, ItIsDraggedByItsTitleBarAndTurnedToByIt) {
   click(frmDumpDRC->chkTopMost);
   desk().activate(*frmHard);
   settle();
-  ChildWindow* window = windowOf(frmDumpDRC.form());
+  FormWindow* window = windowOf(frmDumpDRC.form());
   const QPoint before = window->pos();
   const QPointF grip(150, 8);
   const auto placeOf = [&](QPointF at) {

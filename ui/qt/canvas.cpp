@@ -10,6 +10,7 @@
 #include <vector>
 
 #include "ui/desk.h"
+#include "ui/qt/formWindow.h"
 #include "ui/qt/hosted.h"
 #include "ui/qt/keys.h"
 #include "ui/qt/qtPainter.h"
@@ -76,7 +77,7 @@ void Canvas::paintEvent(QPaintEvent* event) {
   QPainter painter(this);
   painter.setClipRegion(event->region());
   drawForm(painter, *form_, event->region());
-  if (form_->kind() != FormKind::Child) return;
+  if (form_->kind() == FormKind::Frame) return;
   QtPainter through(painter);
   drawFrameEdge(through, *form_);
 }
@@ -123,6 +124,7 @@ void Canvas::mouseMoveEvent(QMouseEvent* event) {
     pointedAt_ = control;
     showPointer(control);
   }
+  showEdgePointer(*this, *form_, spotOf(*event));
   desk().hand.move(form_, spotOf(*event));
 }
 

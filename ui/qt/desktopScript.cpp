@@ -1,7 +1,7 @@
 #include "ui/qt/desktopScript.h"
 
-#include <QApplication>
 #include <QAbstractItemView>
+#include <QApplication>
 #include <QComboBox>
 #include <QKeyEvent>
 #include <QListWidget>
@@ -191,9 +191,7 @@ class WindowedHands final : public Hands {
 
   std::string screenshot(Form* form, const std::string& file) override {
     settle();
-    const QPixmap picture = form == nullptr                    ? wholeScreen()
-                            : form->kind() == FormKind::Window ? withCaption(*form, *windows_.windowOf(*form))
-                                                               : windows_.windowOf(*form)->grab();
+    const QPixmap picture = form == nullptr ? wholeScreen() : windows_.windowOf(*form)->grab();
     return picture.save(QString::fromStdString(file), "PNG") ? std::string() : "cannot write " + file;
   }
 
@@ -203,46 +201,23 @@ class WindowedHands final : public Hands {
     return {global.x(), global.y()};
   }
 
-  /// The mouse as the window system tells of it. What it does goes to the window in front; over a caption bar, which no
-  /// window system draws off-screen, straight to the model.
+  /// The mouse as the window system tells of it, to the window in front.
   void handEvent(QEvent::Type type) {
     settle();
     const Seen seen = windowAt(place_.x() * kTwipsPerPixel, place_.y() * kTwipsPerPixel);
-    const bool caption = seen.form != nullptr && seen.form->kind() == FormKind::Window &&
-                         framePartAt(*seen.form, seen.spot) != FramePart::Inside;
-    QWidget* popup = QApplication::activePopupWidget();
-    if (popup == nullptr && (caption || onCaption_)) {
-      captionEvent(type, seen);
-    } else {
-      QWidget* target = popup != nullptr ? popup : seen.form == nullptr ? nullptr : windows_.windowOf(*seen.form)->window();
-      // While a button is down the window that took the press goes on getting everything.
-      if (type == QEvent::MouseButtonPress) grabber_ = target;
-      if (type != QEvent::MouseButtonPress && grabber_ != nullptr && grabber_->isVisible()) target = grabber_;
-      if (target != nullptr && target->windowHandle() != nullptr) {
-        constexpr int kLaterThanTheStart = 10000;
-        const Qt::MouseButton button = type == QEvent::MouseMove ? Qt::NoButton : Qt::LeftButton;
-        qt_handleMouseEvent(target->windowHandle(), target->mapFromGlobal(place_), place_, buttons_, button, type,
-                            Qt::NoModifier, static_cast<int>(desk().clock.now()) + kLaterThanTheStart);
-      }
-      if (type == QEvent::MouseButtonRelease) grabber_ = nullptr;
+    QWidget* target = QApplication::activePopupWidget();
+    if (target == nullptr && seen.form != nullptr) target = windows_.windowOf(*seen.form)->window();
+    // While the button is down the window that took the press goes on getting everything.
+    if (type == QEvent::MouseButtonPress) grabber_ = target;
+    if (grabber_ != nullptr && grabber_->isVisible()) target = grabber_;
+    if (type == QEvent::MouseButtonRelease) grabber_ = nullptr;
+    if (target != nullptr && target->windowHandle() != nullptr) {
+      constexpr int kLaterThanTheStart = 10000;
+      const Qt::MouseButton button = type == QEvent::MouseMove ? Qt::NoButton : Qt::LeftButton;
+      qt_handleMouseEvent(target->windowHandle(), target->mapFromGlobal(place_), place_, buttons_, button, type,
+                          Qt::NoModifier, static_cast<int>(desk().clock.now()) + kLaterThanTheStart);
     }
     settle();
-  }
-
-  void captionEvent(QEvent::Type type, const Seen& seen) {
-    Hand& hand = desk().hand;
-    const Form* held = hand.heldForm();
-    const Spot spot = held != nullptr ? insideOf(*held, place_.x() * kTwipsPerPixel, place_.y() * kTwipsPerPixel)
-                                      : seen.spot;
-    if (type == QEvent::MouseButtonPress) {
-      onCaption_ = true;
-      hand.down(*seen.form, spot, false);
-    } else if (type == QEvent::MouseMove) {
-      hand.move(held != nullptr ? const_cast<Form*>(held) : seen.form, spot);
-    } else {
-      onCaption_ = false;
-      hand.up(spot);
-    }
   }
 
   static std::string noRow(const Control& control, int row) {
@@ -287,26 +262,6 @@ class WindowedHands final : public Hands {
     return {};
   }
 
-  /// A window as a desk shows it. Off-screen nobody draws its caption bar: one like the children's stands in.
-  static QPixmap withCaption(const Form& form, QWidget& window) {
-    const QPixmap inside = window.grab();
-    const int bar = captionOf(form);
-    if (bar == 0) return inside;
-    QPixmap whole(inside.width(), inside.height() + qRound(bar * inside.devicePixelRatio()));
-    whole.setDevicePixelRatio(inside.devicePixelRatio());
-    QPainter painter(&whole);
-    QtPainter through(painter);
-    drawCaption(through, form, desk().active() == &form);
-    painter.drawPixmap(0, bar, inside);
-    return whole;
-  }
-
-  /// In pixels; 0 where the desktop draws the bar, or there is none.
-  static int captionOf(const Form& form) {
-    const bool drawn = form.border() != Border::None && QGuiApplication::platformName() == "offscreen";
-    return drawn ? qRound(kCaptionHeight / kTwipsPerPixel) : 0;
-  }
-
   QPixmap wholeScreen() const {
     const Screen screen = screenOfQt();
     const qreal ratio = windows_.frame()->devicePixelRatioF();
@@ -318,8 +273,7 @@ class WindowedHands final : public Hands {
     for (auto at = order.rbegin(); at != order.rend(); ++at) {
       if ((*at)->kind() == FormKind::Child || !(*at)->visible()) continue;
       QWidget* window = windows_.windowOf(**at);
-      const QPoint inside = window->geometry().topLeft();
-      painter.drawPixmap(inside - QPoint(0, captionOf(**at)), withCaption(**at, *window));
+      painter.drawPixmap(window->geometry().topLeft(), window->grab());
     }
     return picture;
   }
@@ -328,7 +282,6 @@ class WindowedHands final : public Hands {
   QPointF place_;
   Qt::MouseButtons buttons_;
   QPointer<QWidget> grabber_;
-  bool onCaption_ = false;
 };
 
 /// Off-screen there is no window manager and no session, which Qt tells again and again; that is known.

@@ -106,9 +106,8 @@ class OpenList final : public QListWidget {
  public:
   OpenList(Control& control, QWidget* canvas) : QListWidget(canvas) {
     setItemDelegate(new RowDelegate(control, this));
-    connect(this, &QListWidget::itemClicked, this, [&control](QListWidgetItem* item) {
-      gesture::pick(control, item->listWidget()->row(item));
-    });
+    connect(this, &QListWidget::itemClicked, this,
+            [&control](QListWidgetItem* item) { gesture::pick(control, item->listWidget()->row(item)); });
   }
 
  protected:

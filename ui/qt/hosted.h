@@ -15,7 +15,8 @@ QWidget* hostedWidget(Control& control, QWidget* canvas);
 /// Brings a widget up to date with its control.
 void showHosted(Control& control, QWidget& widget);
 
-/// A key for a field: the model's, but for copying, and pasted characters are typed. False when nobody has a use for it.
+/// A key for a field: the model's, but for copying, and pasted characters are typed. False when nobody has a use for
+/// it.
 bool fieldKey(Control& field, QWidget& widget, QKeyEvent& key);
 /// Whether the event opens the list of a combo box or goes to the open list.
 bool dropsDown(const QComboBox& combo, const QEvent& event);

@@ -84,8 +84,7 @@ bool QtPlatform::messageBox(const std::string& title, const std::string& text, M
   }
   QMessageBox box(icon == MessageIcon::Question ? QMessageBox::Question : QMessageBox::Information,
                   QString::fromStdString(title), QString::fromStdString(text),
-                  buttons == MessageButtons::Ok ? QMessageBox::Ok : QMessageBox::Ok | QMessageBox::Cancel,
-                  owner);
+                  buttons == MessageButtons::Ok ? QMessageBox::Ok : QMessageBox::Ok | QMessageBox::Cancel, owner);
   box.setWindowFlag(Qt::WindowStaysOnTopHint);  // the splash and the lesson do so too
   return box.exec() == QMessageBox::Ok;
 }

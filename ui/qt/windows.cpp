@@ -11,19 +11,13 @@
 
 #include "ui/desk.h"
 #include "ui/gesture.h"
-#include "ui/qt/qtPainter.h"
 
 namespace zelvs {
 
 namespace {
 
-double captionOf(const Form& form) {
-  return form.Height - form.clientHeight();
-}
-
-/// Where the inside of a window that stands by itself lies on the screen.
-QPoint insidePlace(const Form& form) {
-  return {qRound(form.Left / kTwipsPerPixel), qRound((form.Top + captionOf(form)) / kTwipsPerPixel)};
+QPoint placeOf(const Form& form) {
+  return {qRound(form.Left / kTwipsPerPixel), qRound(form.Top / kTwipsPerPixel)};
 }
 
 /// True when the window's size is the user's as well as the program's.
@@ -31,32 +25,14 @@ bool sizable(const Form& form) {
   return form.kind() == FormKind::Window && form.border() == Border::Sizable;
 }
 
-/// Without a screen nobody draws caption bars: room is left for them, so that places are those of a desktop.
+/// Without a screen nobody draws the frame's caption bar: room is left for it, so that places are those of a desktop.
 bool offscreen() {
   return QGuiApplication::platformName() == "offscreen";
 }
 
-/// A window made of nothing but its canvas.
-class TopWindow final : public QWidget {
- public:
-  TopWindow(Canvas* canvas, QWidget* owner, Qt::WindowFlags flags, bool fixed) : QWidget(owner, flags) {
-    auto* layout = new QVBoxLayout(this);
-    layout->setContentsMargins(0, 0, 0, 0);
-    layout->setSizeConstraint(fixed ? QLayout::SetFixedSize : QLayout::SetNoConstraint);
-    layout->addWidget(canvas);
-  }
-};
-
 Qt::WindowFlags flagsOf(const Form& form) {
-  Qt::WindowFlags flags = Qt::Dialog;
-  if (form.border() == Border::None) {
-    flags |= Qt::FramelessWindowHint;
-  } else {
-    flags |= Qt::CustomizeWindowHint | Qt::WindowTitleHint;
-    if (form.hasCloseBox()) flags |= Qt::WindowCloseButtonHint;
-  }
+  Qt::WindowFlags flags = Qt::Dialog | Qt::FramelessWindowHint;
   if (form.inFront()) flags |= Qt::WindowStaysOnTopHint;
-  if (offscreen()) flags |= Qt::FramelessWindowHint;  // else it keeps a thin edge free all round
   return flags;
 }
 
@@ -90,8 +66,8 @@ void Windows::formLoaded(Form& form) {
   const QScopedValueRollback<bool> following(following_, true);
   auto* canvas = new Canvas(form);
   QWidget* window = form.kind() == FormKind::Frame   ? makeFrame(canvas)
-                    : form.kind() == FormKind::Child ? new ChildWindow(form, canvas, area_->viewport())
-                                                     : makeWindow(form, canvas);
+                    : form.kind() == FormKind::Child ? new FormWindow(form, canvas, area_->viewport(), Qt::Widget)
+                                                     : new FormWindow(form, canvas, frame_, flagsOf(form));
   window->setWindowTitle(QString::fromStdString(form.Caption.get()));
   window->setAttribute(Qt::WA_AlwaysShowToolTips);
   shown_.insert(&form, {canvas, window});
@@ -115,23 +91,23 @@ QWidget* Windows::makeFrame(Canvas* canvas) {
   return frame_;
 }
 
-QWidget* Windows::makeWindow(Form& form, Canvas* canvas) {
-  return new TopWindow(canvas, frame_, flagsOf(form), !sizable(form));
-}
-
 void Windows::place(Form& form, const Shown& shown) {
   const QScopedValueRollback<bool> following(following_, true);
   shown.canvas->fitForm();
-  if (auto* child = qobject_cast<ChildWindow*>(shown.window)) {
-    placeChild(form, *child);
-  } else if (form.kind() == FormKind::Window) {
-    placeWindow(form, *shown.window);
-  } else {
+  if (form.kind() == FormKind::Frame) {
     placeChildren();  // the frame itself is the user's own: the program never moves it
+    return;
+  }
+  auto& window = static_cast<FormWindow&>(*shown.window);
+  window.fitForm();
+  if (form.kind() == FormKind::Child) {
+    placeChild(form, window);
+  } else if (window.pos() != placeOf(form)) {
+    window.move(placeOf(form));
   }
 }
 
-void Windows::placeChild(const Form& form, ChildWindow& child) {
+void Windows::placeChild(const Form& form, FormWindow& child) {
   // Beside the client area, in the frame itself: what lies there is in front of all that the area holds.
   QWidget* home = form.floating() ? frame_->centralWidget() : area_->viewport();
   if (child.parentWidget() != home) {
@@ -140,18 +116,10 @@ void Windows::placeChild(const Form& form, ChildWindow& child) {
     stacked_.clear();
     orderChanged();
   }
-  child.fitForm();
   const Form& frame = *desk().frame();
   const QPoint place(qRound((form.Left - (form.floating() ? kClientEdge : frame.ScrollLeft.get())) / kTwipsPerPixel),
                      qRound((form.Top - (form.floating() ? kClientEdge : frame.ScrollTop.get())) / kTwipsPerPixel));
   if (child.pos() != place) child.move(place);
-}
-
-void Windows::placeWindow(const Form& form, QWidget& window) {
-  // Where the user may draw at the window's edge the canvas follows the window, and not the other way round.
-  const QSize size = sizable(form) ? shown_.value(&form).canvas->size() : window.size();
-  const QRect wanted(insidePlace(form), size);
-  if (window.geometry() != wanted) window.setGeometry(wanted);
 }
 
 void Windows::placeChildren() {
@@ -159,7 +127,7 @@ void Windows::placeChildren() {
   if (frame == nullptr || area_ == nullptr) return;
   area_->follow(*frame);
   for (auto at = shown_.constBegin(); at != shown_.constEnd(); ++at) {
-    if (auto* child = qobject_cast<ChildWindow*>(at->window)) placeChild(*at.key(), *child);
+    if (at.key()->kind() == FormKind::Child) placeChild(*at.key(), static_cast<FormWindow&>(*at->window));
   }
 }
 
@@ -218,7 +186,7 @@ void Windows::formUnloaded(Form& form) {
   if (turnedTo_ == &form) turnedTo_ = nullptr;
   if (shown.window == nullptr) return;
   shown.canvas->forgetForm();
-  if (auto* child = qobject_cast<ChildWindow*>(shown.window)) child->forgetForm();
+  if (auto* window = qobject_cast<FormWindow*>(shown.window)) window->forgetForm();
   shown.window->hide();
   if (shown.window == frame_) {
     frame_ = nullptr;
@@ -287,9 +255,8 @@ void Windows::stack() {
   for (auto at = moved; at != order.rend(); ++at)
     windowOf(**at)->raise();
   stacked_ = order;
-  for (const Form* form : order) {
-    if (form->kind() == FormKind::Child) windowOf(*form)->update();  // its caption bar tells who is active
-  }
+  for (const Form* form : order)
+    windowOf(*form)->update();  // its caption bar tells who is active
 }
 
 void Windows::turnKeyboard() {
@@ -312,16 +279,19 @@ Form* Windows::formOf(const QObject* window) const {
 }
 
 void Windows::takePlace(Form& form, const QWidget& window) {
-  const QPoint place = window.geometry().topLeft();
-  if (place == insidePlace(form)) return;
-  form.Left = place.x() * kTwipsPerPixel;
-  form.Top = place.y() * kTwipsPerPixel - captionOf(form);
+  if (form.kind() == FormKind::Frame) {
+    // Its caption bar is the desktop's, of whatever height: the inside is what counts.
+    form.Left = window.geometry().x() * kTwipsPerPixel;
+    form.Top = window.geometry().y() * kTwipsPerPixel - kCaptionHeight;
+  } else if (window.pos() != placeOf(form)) {
+    form.Left = window.x() * kTwipsPerPixel;
+    form.Top = window.y() * kTwipsPerPixel;
+  }
 }
 
 void Windows::takeSize(Form& form, const QWidget& window) {
-  const double caption = captionOf(form);
   form.Width = window.width() * kTwipsPerPixel;
-  form.Height = window.height() * kTwipsPerPixel + caption;
+  form.Height = window.height() * kTwipsPerPixel + (form.kind() == FormKind::Frame ? kCaptionHeight : 0);
 }
 
 bool Windows::eventFilter(QObject* watched, QEvent* event) {
@@ -358,7 +328,7 @@ bool Windows::windowEvent(Form& form, QWidget& window, QEvent& event) {
       if (!following_ && form.kind() == FormKind::Window && form.visible()) gesture::activate(form);
       return false;
     case QEvent::WindowStateChange:
-      // A strip or a dialog has nothing to fill a screen with.
+      // A strip or a dialog has nothing to fill a screen with; a desktop's keys may ask for it all the same.
       if (form.kind() == FormKind::Window && window.isMaximized()) window.showNormal();
       return false;
     default:

@@ -9,15 +9,13 @@
 #include "ui/form.h"
 #include "ui/qt/canvas.h"
 #include "ui/qt/clientArea.h"
+#include "ui/qt/formWindow.h"
 #include "ui/view.h"
 
 namespace zelvs {
 
 /// The window of each loaded form, kept as the model says: shown, placed, stacked and painted once per return to the
 /// event loop. What the user does to a window itself (moving, closing, turning to it) goes back as gestures.
-///
-/// A window that stands by itself has a caption bar of the desktop's, of whatever height: its inside lies where the
-/// model has it, so that places mean the same on every desktop.
 class Windows final : public QObject, public View {
   Q_OBJECT
  public:
@@ -45,16 +43,14 @@ class Windows final : public QObject, public View {
  private:
   struct Shown {
     Canvas* canvas = nullptr;
-    QWidget* window = nullptr;  // main window, child window, or the canvas's own top-level window
+    QWidget* window = nullptr;  // the frame's main window, or a FormWindow
   };
   void markChanged(QSet<Form*>& forms, Form& form);
   void schedule();
   QWidget* makeFrame(Canvas* canvas);
-  QWidget* makeWindow(Form& form, Canvas* canvas);
   void showFrame();
   void place(Form& form, const Shown& shown);
-  void placeChild(const Form& form, ChildWindow& child);
-  void placeWindow(const Form& form, QWidget& window);
+  void placeChild(const Form& form, FormWindow& child);
   void placeChildren();
   void stack();
   void turnKeyboard();
