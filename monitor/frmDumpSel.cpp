@@ -21,14 +21,20 @@ void closeAll() {
   }
 }
 
+/// What a user asks for is brought into view on a screen that does not hold it; at a start everything stays.
+void openInView(int window) {
+  openDumpWindow(window);
+  dumpWindow(window).reveal();
+}
+
 struct Entry {
   std::string_view caption;
   void (*action)();
 };
 constexpr std::array<Entry, 5> kEntries = {{
-    {"コントロール+DI+DO", [] { openDumpWindow(0); }},
-    {"C1～C7", [] { openDumpWindow(1); }},
-    {"DRC", [] { openDumpWindow(2); }},
+    {"コントロール+DI+DO", [] { openInView(0); }},
+    {"C1～C7", [] { openInView(1); }},
+    {"DRC", [] { openInView(2); }},
     {"Memory Read", openMemoryRead},
     {"Window All Close", closeAll},
 }};

@@ -29,13 +29,6 @@ FormPlace& placeOf(int window) {
   return *kPlaces[static_cast<std::size_t>(window)];
 }
 
-/// The window, loaded if it was not.
-FrmDump& dumpForm(int window) {
-  FormPlace& place = placeOf(window);
-  place.load();
-  return static_cast<FrmDump&>(*place.form());
-}
-
 std::string_view asciiText(std::uint8_t byte, char& room) {
   room = byte < 32 || byte >= 127 ? '.' : static_cast<char>(byte);
   return {&room, 1};
@@ -118,6 +111,12 @@ void apply(FrmDump& form, const Layout& layout) {
 
 }  // namespace
 
+FrmDump& dumpWindow(int window) {
+  FormPlace& place = placeOf(window);
+  place.load();
+  return static_cast<FrmDump&>(*place.form());
+}
+
 int cellOfOffset(int offset) {
   const int low = offset & kColumnMask;
   // A big-endian CPU has the high byte of a word, odd in the chip's memory, on the left.
@@ -133,7 +132,7 @@ void refreshDumpWindow(int window) {
   std::uint8_t* shown = &chipMemoryShown[base];
   if (!all && std::memcmp(now, shown, static_cast<std::size_t>(count)) == 0) return;
   // The containers need not be disabled meanwhile: a window is painted when the handler has ended, never in between.
-  FrmDump& form = dumpForm(window);
+  FrmDump& form = dumpWindow(window);
   for (int offset = 0; offset < count; ++offset) {
     const bool changed = shown[offset] != now[offset];
     if (!changed && !all) continue;
@@ -165,7 +164,7 @@ void resetDumpLayout(int window) {
   for (int at = all ? 0 : window; at <= (all ? 2 : window); ++at) {
     // One that is not loaded takes its layout when it opens.
     if (!placeOf(at).loaded()) continue;
-    FrmDump& form = dumpForm(at);
+    FrmDump& form = dumpWindow(at);
     form.piMode = wideBus() ? 1 : 0;
     if (bigEndian()) {
       setHeaderBig(form);
@@ -193,7 +192,7 @@ void layoutWords(FrmDump& form) {
 }
 
 void openDumpWindow(int window) {
-  FrmDump& form = dumpForm(window);
+  FrmDump& form = dumpWindow(window);
   if (form.visible()) {
     form.setFocus();
   } else {

@@ -26,6 +26,8 @@ void setHeaderLittle(FrmDump& form);
 void layoutBytes(FrmDump& form);
 void layoutWords(FrmDump& form);
 
+/// Window 0 to 2, loaded if it was not.
+FrmDump& dumpWindow(int window);
 /// The cell that shows a byte at an offset (from 0) from its window's base.
 int cellOfOffset(int offset);
 /// Brings window 0 to 2 up, or gives it the focus, with layout and bytes anew.

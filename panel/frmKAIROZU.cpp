@@ -84,8 +84,10 @@ void FrmKAIROZU::setKAIROZU(int index) {
   }
   kairozuCurrent = static_cast<std::int16_t>(index);
   move(10050, 0);
+  const bool opened = !visible();
   show();
   bringToFront();
+  if (opened) reveal();
 }
 
 void FrmKAIROZU::activated() {

@@ -76,6 +76,7 @@ void lblRegisterHint_Click() {
   } else {
     frmHint->show();
   }
+  frmHint->reveal();
 }
 
 void lblDefault_Click() {

@@ -71,18 +71,36 @@ void Form::keepOnScreen() {
   move(std::max(0.0, std::min<double>(Left, right)), std::max(0.0, std::min<double>(Top, bottom)));
 }
 
+namespace {
+
+/// What the children in the client area take, its own left top corner included.
+Area childrenArea() {
+  Area area{0, 0, 0, 0};
+  for (const Form* form : desk().forms()) {
+    if (form->kind() != FormKind::Child || !form->visible() || form->floating()) continue;
+    area = area.united({form->Left, form->Top, form->Width, form->Height});
+  }
+  return area;
+}
+
+}  // namespace
+
 Area Form::clientArea() const {
-  return {insideLeft(), clientAreaTop(), clientWidth(), std::max(clientHeight() - barHeight(), 0.0)};
+  Area area{insideLeft(), clientAreaTop(), clientWidth(), std::max(clientHeight() - barHeight(), 0.0)};
+  const Area children = childrenArea();
+  const auto tooWide = [&] { return children.width > area.width; };
+  const auto tooHigh = [&] { return children.height > area.height; };
+  // Each bar may be what the other one is needed for.
+  const bool below = tooWide() || (tooHigh() && children.width > area.width - kScrollBar);
+  const bool beside = tooHigh() || (below && children.height > area.height - kScrollBar);
+  area.height -= below ? kScrollBar : 0;
+  area.width -= beside ? kScrollBar : 0;
+  return area;
 }
 
 Area Form::scrollRange() const {
   const Area seen = clientArea();
-  Area range{0, 0, seen.width, seen.height};
-  for (const Form* form : desk().forms()) {
-    if (form->kind() != FormKind::Child || !form->visible() || form->floating()) continue;
-    range = range.united({form->Left, form->Top, form->Width, form->Height});
-  }
-  return range;
+  return childrenArea().united({0, 0, seen.width, seen.height});
 }
 
 void Form::scrollTo(double left, double top) {

@@ -16,6 +16,8 @@ enum class Border { None, Fixed, Sizable };
 /// Height of a caption bar in twips. A desktop draws its own windows' bars as it likes: there the inside is what
 /// counts.
 inline constexpr double kCaptionHeight = 300;
+/// Breadth of a bar to scroll by, in twips.
+inline constexpr double kScrollBar = 210;
 /// What stands between the frame and its client area, in twips: a child counts from behind it, a floating one from
 /// before.
 inline constexpr double kClientEdge = 30;
@@ -85,7 +87,8 @@ class Form : public PropertyOwner {
   /// Scrolls the frame's client area until as much of this child is seen as fits, its left top corner at the least.
   void reveal();
 
-  /// Of a frame: the part of its inside in which children show, in twips of the screen.
+  /// Of a frame: the part of its inside in which children show, in twips of the screen. Where they do not fit in, bars
+  /// to scroll by take a strip of it (kScrollBar) at the right or at the bottom.
   Area clientArea() const;
   /// Of a frame: what its children take, in twips of the client area; at least the client area itself.
   Area scrollRange() const;

@@ -28,6 +28,8 @@ void showBar(QScrollBar& bar, double from, double to, double room, double at) {
 ClientArea::ClientArea(QWidget* parent) : QAbstractScrollArea(parent) {
   setFrameShape(QFrame::NoFrame);
   setFocusPolicy(Qt::NoFocus);
+  horizontalScrollBar()->setFixedHeight(pixels(kScrollBar));
+  verticalScrollBar()->setFixedWidth(pixels(kScrollBar));
 }
 
 void ClientArea::paintEvent(QPaintEvent* event) {

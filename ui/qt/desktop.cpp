@@ -49,7 +49,7 @@ int runDesktop(int& argc, char** argv, const std::function<void()>& start) {
   setUpLook();
   setRunTimeErrorTeller(tellUser);
   Windows windows;
-  QtPlatform platform;
+  QtPlatform platform(windows);
   setView(&windows);
   setPlatform(&platform);
   start();

@@ -334,6 +334,10 @@ ScriptedPlatform& DesktopScript::platform() {
   return parts_->platform;
 }
 
+const Windows& DesktopScript::windows() const {
+  return parts_->windows;
+}
+
 Hands& DesktopScript::hands() {
   return parts_->hands;
 }

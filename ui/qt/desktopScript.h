@@ -7,6 +7,8 @@
 
 namespace zelvs {
 
+class Windows;
+
 /// Real windows under a script: what the script does is sent as mouse and key events to the control's place on its
 /// window. Where there is no display the toolkit's off-screen platform stands in, with a screen of 1920 by 1080.
 class DesktopScript {
@@ -18,6 +20,7 @@ class DesktopScript {
 
   ScriptedPlatform& platform();
   Hands& hands();
+  const Windows& windows() const;
 
  private:
   struct Parts;

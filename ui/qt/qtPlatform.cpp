@@ -3,7 +3,6 @@
 #include <QApplication>
 #include <QCursor>
 #include <QIcon>
-#include <QMainWindow>
 #include <QMessageBox>
 #include <QScopedValueRollback>
 #include <QScreen>
@@ -12,6 +11,7 @@
 #include "ui/desk.h"
 #include "ui/qt/accessibility.h"
 #include "ui/qt/qtPainter.h"
+#include "ui/qt/windows.h"
 
 namespace zelvs {
 
@@ -33,7 +33,7 @@ bool isInput(const QEvent& event) {
 
 }  // namespace
 
-QtPlatform::QtPlatform() {
+QtPlatform::QtPlatform(const Windows& windows) : windows_(windows) {
   realTime_.start();
   alarm_.setSingleShot(true);
   alarm_.setTimerType(Qt::PreciseTimer);
@@ -77,14 +77,10 @@ void QtPlatform::yield() {
 bool QtPlatform::messageBox(const std::string& title, const std::string& text, MessageIcon icon,
                             MessageButtons buttons) {
   timersChanged();
-  // It belongs to the modal window that asks, which would be raised over a mere neighbour, or to the frame.
-  QWidget* owner = QApplication::activeModalWidget();
-  for (QWidget* window : QApplication::topLevelWidgets()) {
-    if (owner == nullptr && qobject_cast<QMainWindow*>(window) != nullptr) owner = window;
-  }
   QMessageBox box(icon == MessageIcon::Question ? QMessageBox::Question : QMessageBox::Information,
                   QString::fromStdString(title), QString::fromStdString(text),
-                  buttons == MessageButtons::Ok ? QMessageBox::Ok : QMessageBox::Ok | QMessageBox::Cancel, owner);
+                  buttons == MessageButtons::Ok ? QMessageBox::Ok : QMessageBox::Ok | QMessageBox::Cancel,
+                  windows_.frontWindow());
   box.setWindowFlag(Qt::WindowStaysOnTopHint);  // the splash and the lesson do so too
   return box.exec() == QMessageBox::Ok;
 }

@@ -7,16 +7,17 @@
 #include "ui/platform.h"
 #include "ui/qt/sound.h"
 
-class QWidget;
-
 namespace zelvs {
+
+class Windows;
 
 /// The desktop with a person before it: real time, real events. Each wake-up, an input among them, first moves the
 /// model's clock to the present.
 class QtPlatform final : public QObject, public Platform {
   Q_OBJECT
  public:
-  QtPlatform();
+  /// Boxes belong to the windows, which must outlive this.
+  explicit QtPlatform(const Windows& windows);
 
   bool waitForEvent() override;
   void yield() override;
@@ -34,6 +35,7 @@ class QtPlatform final : public QObject, public Platform {
  private:
   void wakeUp();
 
+  const Windows& windows_;
   WaveSound sound_;
   QElapsedTimer realTime_;
   QTimer alarm_;

@@ -7,6 +7,7 @@
 #include <QScreen>
 #include <QTimer>
 #include <QVBoxLayout>
+#include <QWindow>
 #include <algorithm>
 
 #include "ui/desk.h"
@@ -164,11 +165,24 @@ void Windows::formShown(Form& form) {
   }
   place(form, shown);
   shown.canvas->show();
+  if (form.kind() == FormKind::Window) {
+    shown.window->winId();  // makes its handle
+    const QWidget* owner = form.inFront() ? frontWindow() : frame_;
+    shown.window->windowHandle()->setTransientParent(owner != nullptr ? owner->windowHandle() : nullptr);
+  }
   shown.window->show();
-  stacked_.clear();  // a window that appears lies where the desktop puts it
+  stacked_.clear();
   orderChanged();
   // What changed while it was hidden has been left marked, and what is marked is not told of again.
   markChanged(changed_, form);
+}
+
+QWidget* Windows::frontWindow() const {
+  for (const Form* form : desk().forms()) {
+    QWidget* window = form->inFront() ? windowOf(*form) : nullptr;
+    if (window != nullptr && window->isVisible()) return window;
+  }
+  return frame_;
 }
 
 void Windows::formHidden(Form& form) {

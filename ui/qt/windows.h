@@ -36,6 +36,10 @@ class Windows final : public QObject, public View {
   Canvas* canvasOf(const Form& form) const;
   /// What the screen holds of a form: with its caption bar where the program draws that itself.
   QWidget* windowOf(const Form& form) const;
+  /// The window that whatever shall be in front has to belong to: that of the front one of those that stay in front, or
+  /// the frame. Window managers keep a modal window together with its owner, and would put one of the frame's under
+  /// whatever stays in front of the frame.
+  QWidget* frontWindow() const;
   /// The frame's window, or null while it is not loaded.
   QMainWindow* frame() const { return frame_; }
   bool eventFilter(QObject* watched, QEvent* event) override;

@@ -28,7 +28,7 @@ class DesktopTest : public testing::Test {
 
   /// From here on time is real and modal windows run loops of their own, as before a person.
   void takePersonsPlatform() {
-    persons_ = std::make_unique<QtPlatform>();
+    persons_ = std::make_unique<QtPlatform>(desktop_->windows());
     setPlatform(persons_.get());
   }
   /// Starts with the maker's values, some of them replaced.
