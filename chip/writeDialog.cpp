@@ -53,6 +53,7 @@ WriteDialog::WriteDialog(std::string_view name, FormKind kind, EnterKey enterKey
     button.move(kWidth - fromRight, kInside - kButtonHeight - 180, kButtonWidth, kButtonHeight);
   }
   cmdAction(0).Default = true;
+  cmdAction(1).Cancel = true;
 
   attachHexField(txtWriteData, {kWordDigits, true, enterKey});
   for (OptionButton& option : opnAccess) {
@@ -95,7 +96,6 @@ void WriteDialog::tell(Answer answer) {
 }
 
 void WriteDialog::activated() {
-  keepOnScreen();
   refresh();
   desk().focus(&txtWriteData);
 }

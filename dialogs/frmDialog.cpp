@@ -27,6 +27,7 @@ FrmDialog::FrmDialog() : Form("frmDialog", kKind, Border::None) {
   lblMessage.Top = 450;
   cmdAction(0).Caption = "OK";
   cmdAction(0).Default = true;
+  cmdAction(1).Cancel = true;
   cmdAction(1).Caption = "ｷｬﾝｾﾙ";
   for (CommandButton& button : cmdAction) {
     button.Width = 1215;

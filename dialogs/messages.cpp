@@ -44,6 +44,7 @@ void showMessageBeside(Form& window, std::string_view text) {
 
 int askDialog(std::string_view message, DialogMode mode, std::string_view title) {
   constexpr double kLeastWidth = 6060;
+  desk().focus(nullptr);  // a list that lies open has its own warning first, in the same box
   FrmDialog& form = *frmDialog;
   form.lblMessage.Caption = std::string(message) + "\r\n";
   const double width = std::max(form.lblMessage.Width + 480, kLeastWidth);

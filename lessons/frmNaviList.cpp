@@ -61,6 +61,8 @@ FrmNaviList::FrmNaviList() : Form("frmNaviList", kKind, Border::Fixed) {
 
   cmdStart.Default = true;
   cmdStart.onClick = cmdStart_Click;
+  lstTitle.onDblClick = cmdStart_Click;
+  cmdCancel.Cancel = true;
   cmdCancel.onClick = [this] { hide(); };
 }
 

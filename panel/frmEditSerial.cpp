@@ -151,6 +151,7 @@ FrmEditSerial::FrmEditSerial() : Form("frmEditSerial", kKind, Border::Fixed) {
   cmdAction(1).Caption = "Cancel";
   cmdAction(2).Caption = "Start";
   cmdAction(0).Default = true;
+  cmdAction(1).Cancel = true;
   cmdAction(0).onClick = [this] { set(); };
   cmdAction(1).onClick = [this] { cancel(); };
   cmdAction(2).onClick = [this] { start(); };

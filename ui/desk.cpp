@@ -100,6 +100,7 @@ void Desk::show(Form& form, ShowMode mode, Form* owner) {
   if (form.modal_) {
     hand.lose();  // from here on the mouse is the modal window's
     modals_.push_back(&form);
+    form.keepOnScreen();  // its buttons are the only way on
   }
   if (!wasVisible) view().formShown(form);
   fitScroll(form);

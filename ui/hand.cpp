@@ -6,6 +6,7 @@
 #include "ui/desk.h"
 #include "ui/gesture.h"
 #include "ui/keyboard.h"
+#include "ui/listRows.h"
 #include "ui/windowFrame.h"
 
 namespace zelvs {
@@ -107,11 +108,12 @@ void Hand::up(const Spot& spot) {
   }
 }
 
-bool Hand::downOnField(Control& field, bool second, bool named) {
+bool Hand::downOnField(Control& field, int row, bool second, bool named) {
   const Desk::Event event;
   if (!begin({&field.form(), &field}, second, named)) return false;
   part_ = Part::Nothing;  // the field itself ends it
-  if (!second || !gesture::actsOnDoubleClick(&field)) return true;
+  const bool besideRows = !named && rowCountOf(field) > 0 && row < 0;
+  if (!second || besideRows || !gesture::actsOnDoubleClick(&field)) return true;
   held_ = {};
   gesture::pressedAgain(field.form(), &field);
   return false;

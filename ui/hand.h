@@ -44,8 +44,9 @@ class Hand {
   const Control* heldControl() const { return held_.control; }
 
   /// The same for a control that is a field of a backend's: false when the press is for nobody, and the field must not
-  /// see it.
-  bool downOnField(Control& field, bool second, bool named = false);
+  /// see it. row: of a list or a strip of tabs, the one under the pointer, from 0; -1 for none. A double click beside
+  /// its rows is none for a list.
+  bool downOnField(Control& field, int row, bool second, bool named = false);
   void upFromField() { held_ = {}; }
 
   /// The release went elsewhere, or will never come: what is held is let go, without a click.

@@ -135,7 +135,7 @@ void HeadlessHands::handDown() {
     dropped_ = nullptr;
   }
   if (dropped_ != nullptr && dropped(*dropped_) && rowAt(*dropped_, x(), y()) >= 0) {
-    if (desk().hand.downOnField(*dropped_, second)) held_ = {dropped_, rowAt(*dropped_, x(), y())};
+    pressField(*dropped_, second);
     return;
   }
   const Seen seen = windowAt(x(), y());
@@ -145,9 +145,14 @@ void HeadlessHands::handDown() {
                          : nullptr;
   if (control == nullptr || !isField(*control)) {
     desk().hand.down(*seen.form, seen.spot, second);
-  } else if (desk().hand.downOnField(*control, second)) {
-    held_ = {control, rowAt(*control, x(), y())};
+  } else {
+    pressField(*control, second);
   }
+}
+
+void HeadlessHands::pressField(Control& field, bool second) {
+  const int row = rowAt(field, x(), y());
+  if (desk().hand.downOnField(field, row, second)) held_ = {&field, row};
 }
 
 void HeadlessHands::handUp() {

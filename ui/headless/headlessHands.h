@@ -36,6 +36,7 @@ class HeadlessHands final : public Hands {
   /// The rows of a list that can be seen now, on the screen in twips; empty for a closed one.
   Area rowsOf(const Control& list) const;
   int rowAt(const Control& list, double x, double y) const;
+  void pressField(Control& field, bool second);
   void releaseField(const HeldField& held);
   void useField(Control& field, int row);
   double x() const;

@@ -183,7 +183,8 @@ bool Canvas::fieldEvent(Control& field, QEvent& event) {
     case QEvent::MouseButtonDblClick: {
       const auto& mouse = static_cast<QMouseEvent&>(event);
       if (mouse.button() != Qt::LeftButton) return false;
-      swallowing_ = !hand.downOnField(field, event.type() == QEvent::MouseButtonDblClick, isNamed(mouse));
+      swallowing_ = !hand.downOnField(field, rowAt(*widgetOf(field), mouse.position().toPoint()),
+                                      event.type() == QEvent::MouseButtonDblClick, isNamed(mouse));
       return swallowing_;
     }
     case QEvent::MouseButtonRelease:

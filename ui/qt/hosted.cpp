@@ -252,6 +252,11 @@ void showHosted(Control& control, QWidget& widget) {
   widget.setVisible(shown);
 }
 
+int rowAt(const QWidget& widget, QPoint place) {
+  const auto* list = qobject_cast<const QListWidget*>(&widget);
+  return list != nullptr ? list->indexAt(place).row() : -1;
+}
+
 bool fieldKey(Control& field, QWidget& widget, QKeyEvent& key) {
   if (field.kind() == ControlKind::TextBox && key.matches(QKeySequence::Copy)) {
     static_cast<QLineEdit&>(widget).copy();

@@ -15,6 +15,8 @@ QWidget* hostedWidget(Control& control, QWidget* canvas);
 /// Brings a widget up to date with its control.
 void showHosted(Control& control, QWidget& widget);
 
+/// The row of a list's widget at a place on it, from 0; -1 where there is none, and on any other widget.
+int rowAt(const QWidget& widget, QPoint place);
 /// A key for a field: the model's, but for copying, and pasted characters are typed. False when nobody has a use for
 /// it.
 bool fieldKey(Control& field, QWidget& widget, QKeyEvent& key);
