@@ -107,6 +107,16 @@ TEST_F(HintTest, APictureThatIsNoneIsLeftOut) {
   EXPECT_EQ(shownPicture(), "3.bmp") << "image 1, which is the third tab's";
 }
 
+TEST_F(HintTest, APictureLiesInAFolderByEitherSeparator) {
+  std::filesystem::create_directory(folder.file("HintData/sub"));
+  folder.write("HintData/sub/a.bmp", bitmapOf(10, 60));
+  folder.write("HintData/sub/b.bmp", bitmapOf(20, 60));
+  startWith("sub\\a.bmp\tA\r\nsub/b.bmp\tB\r\n");
+  EXPECT_EQ(frmHint->ilsHint.count(), 2);
+  EXPECT_EQ(frmHint->ilsHint.fileOf(1)->width, 10);
+  EXPECT_EQ(frmHint->ilsHint.fileOf(2)->width, 20);
+}
+
 TEST_F(HintTest, WithoutItsFilesItIsAnEmptyWindow) {
   std::filesystem::remove_all(folder.file("HintData"));
   start();

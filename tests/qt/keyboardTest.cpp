@@ -3,15 +3,21 @@
 #include <gtest/gtest.h>
 
 #include <QApplication>
+#include <QClipboard>
 #include <QKeyEvent>
+#include <QLineEdit>
 #include <QListWidget>
+#include <QPushButton>
 #include <QTimer>
 #include <vector>
 
+#include "chip/frmEditMemory.h"
+#include "chip/frmMemoryRead.h"
 #include "dialogs/frmDialog.h"
 #include "dialogs/messages.h"
 #include "lessons/frmNaviList.h"
 #include "lessons/frmNavigation.h"
+#include "monitor/frmDumpCDIO.h"
 #include "qt/support/desktop.h"
 #include "shell/frmDefault.h"
 #include "shell/frmMDI.h"
@@ -102,6 +108,48 @@ TEST_F(KeyboardTest, TheSpaceKeyTurnsThePagesAndStopsAtTheLast) {
   press(Qt::Key_Space);
   EXPECT_TRUE(frmNavigation.visible()) << "the key has not gone on to the button beside";
   EXPECT_EQ(frmNavigation->currentPage, 2);
+}
+
+TEST_F(KeyboardTest, WhatIsPastedIsTypedAndWhatIsCopiedLeavesTheFieldAsItIs) {
+  cpuType = 1;  // an 8-bit bus
+  openMemoryRead();
+  const TextBox& address = frmMemoryRead->txtAddress;
+  QApplication::clipboard()->setText("z1\nC3");
+  press(Qt::Key_V, Qt::ControlModifier);
+  EXPECT_EQ(address.Text.get(), "1C3");
+  EXPECT_EQ(address.SelLength, 1);
+  press(Qt::Key_Home);
+  press(Qt::Key_C, Qt::ControlModifier);
+  EXPECT_EQ(QApplication::clipboard()->text(), "1");
+  press(Qt::Key_X, Qt::ControlModifier);
+  press(Qt::Key_Z, Qt::ControlModifier);
+  press(Qt::Key_Delete, Qt::ShiftModifier);
+  EXPECT_EQ(address.Text.get(), "1C3");
+  EXPECT_EQ(address.SelStart, 0);
+  EXPECT_EQ(address.SelLength, 1);
+  const auto* field = qobject_cast<QLineEdit*>(canvasOf(frmMemoryRead.form())->widgetOf(address));
+  ASSERT_NE(field, nullptr);
+  EXPECT_EQ(field->text(), "1C3");
+  EXPECT_EQ(field->selectedText(), "1");
+}
+
+TEST_F(KeyboardTest, TheDefaultFrameIsDrawnWhereEnterAnswers) {
+  QTimer::singleShot(0, [] {
+    const FrmEditMemory& form = *frmEditMemory;
+    const auto drawnOn = [&](int index) {
+      settle();
+      return qobject_cast<QPushButton*>(canvasOf(&form)->widgetOf(form.cmdAction(index)))->isDefault();
+    };
+    EXPECT_FALSE(drawnOn(0)) << "the field keeps Enter for itself";
+    desk().focus(&frmEditMemory->opnAccess(0));
+    EXPECT_TRUE(drawnOn(0));
+    EXPECT_FALSE(drawnOn(1));
+    desk().focus(&frmEditMemory->cmdAction(1));
+    EXPECT_FALSE(drawnOn(0)) << "the button that has the focus answers";
+    EXPECT_TRUE(drawnOn(1));
+    frmEditMemory->hide();
+  });
+  gesture::doubleClick(*frmDumpCDIO, &frmDumpCDIO->lblASC(378));
 }
 
 TEST_F(KeyboardTest, TabGoesThroughTheSettingsAsTheyStandOnTheWindow) {
