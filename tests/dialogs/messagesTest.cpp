@@ -5,7 +5,9 @@
 #include <cmath>
 #include <functional>
 #include <string>
+#include <vector>
 
+#include "bench/frmHard.h"
 #include "dialogs/beep.h"
 #include "dialogs/frmDialog.h"
 #include "dialogs/frmMessage.h"
@@ -354,6 +356,23 @@ TEST_F(MessageTest, AHiddenRegisterWindowIsLeftAlone) {
   refreshRegisterWindow();
   EXPECT_EQ(frmRegister->lblValL(3).Caption.get(), "77");
   EXPECT_EQ(frmRegister->lblValL(3).ForeColor, kRed);
+}
+
+TEST_F(MessageTest, AListThatLiesOpenHasItsOwnQuestionFirst) {
+  std::vector<std::string> asked;
+  platform.onModal = [&](Form& form) {
+    ASSERT_EQ(&form, frmDialog.form());
+    asked.push_back(frmDialog->lblMessage.Caption);
+    gesture::click(*frmDialog, &frmDialog->cmdAction(1));
+    if (form.visible()) gesture::click(*frmDialog, &frmDialog->cmdAction(0));
+  };
+  gesture::doubleClick(*frmHard, &frmHard->picMode);
+  ASSERT_EQ(desk().focused(), &frmHard->cmbMode);
+  EXPECT_EQ(askDialog("outer", DialogMode::TwoButtons, "title"), 2);
+  ASSERT_EQ(asked.size(), 2U);
+  EXPECT_NE(asked[0], "outer\r\n");
+  EXPECT_EQ(asked[1], "outer\r\n");
+  EXPECT_EQ(frmDialog->lblDialogTitle.Caption.get(), "title");
 }
 
 }  // namespace
