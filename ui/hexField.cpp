@@ -10,6 +10,7 @@ namespace zelvs {
 
 namespace {
 
+// Every hex digit; that 6 and 0 come twice changes nothing.
 constexpr std::u32string_view kDigits = U"012345676890abcdefABCDEF";
 
 int lastPlace(const TextBox& field) {
