@@ -69,9 +69,12 @@ bool QtPlatform::waitForEvent() {
 }
 
 void QtPlatform::yield() {
-  const QScopedValueRollback<bool> yielding(yielding_, true);
-  desk().clock.fireDue();
-  QApplication::processEvents(QEventLoop::ExcludeUserInputEvents);
+  {
+    const QScopedValueRollback<bool> yielding(yielding_, true);
+    desk().clock.fireDue();
+    QApplication::processEvents(QEventLoop::ExcludeUserInputEvents);
+  }
+  timersChanged();  // the alarm may have rung in there, and nobody listened
 }
 
 bool QtPlatform::messageBox(const std::string& title, const std::string& text, MessageIcon icon,
