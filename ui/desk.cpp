@@ -21,7 +21,7 @@ int layerOf(const Form& form) {
   return form.floating() ? kFloatingChild : kChild;
 }
 
-/// Which button Enter pushes depends on who has the focus, and is seen on the button.
+/// Which button Enter pushes depends on who is active and who has the focus, and is seen on the button.
 void markDefaultButton(const Form& form) {
   for (Control* control : form.controls()) {
     if (control->kind() == ControlKind::CommandButton && static_cast<CommandButton&>(*control).Default) {
@@ -150,9 +150,11 @@ void Desk::activate(Form& form) {
   if (active_ != nullptr) {
     Form& before = *active_;
     active_ = nullptr;
+    markDefaultButton(before);
     before.deactivated();
   }
   active_ = &form;
+  markDefaultButton(form);
   form.lastActive_ = ++activations_;
   view().orderChanged();
   form.activated();

@@ -152,6 +152,22 @@ TEST_F(KeyboardTest, TheDefaultFrameIsDrawnWhereEnterAnswers) {
   gesture::doubleClick(*frmDumpCDIO, &frmDumpCDIO->lblASC(378));
 }
 
+TEST_F(KeyboardTest, AWindowWithoutTheKeyboardDrawsNoDefaultFrame) {
+  frmNavigation->setNavigation("a.txt");
+  frmNavigation->show();
+  desk().focus(&frmNavigation->cmdAction(1));
+  const auto drawn = [] {
+    settle();
+    return qobject_cast<QPushButton*>(canvasOf(frmNavigation.form())->widgetOf(frmNavigation->cmdAction(1)))
+        ->isDefault();
+  };
+  EXPECT_TRUE(drawn());
+  desk().activate(*frmHard);
+  EXPECT_FALSE(drawn());
+  desk().activate(*frmNavigation);
+  EXPECT_TRUE(drawn());
+}
+
 TEST_F(KeyboardTest, TabGoesThroughTheSettingsAsTheyStandOnTheWindow) {
   gesture::click(*frmMDI, &frmMDI->lblDefault);
   const FrmDefault& form = *frmDefault;

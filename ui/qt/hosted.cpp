@@ -214,7 +214,7 @@ void showHosted(Control& control, QWidget& widget) {
     case ControlKind::CommandButton: {
       auto& button = static_cast<QPushButton&>(widget);
       button.setText(caption);
-      button.setDefault(answersEnter(control.form()) == &control);
+      button.setDefault(desk().active() == &control.form() && answersEnter(control.form()) == &control);
       break;
     }
     case ControlKind::CheckBox: {
