@@ -55,9 +55,8 @@ bool Control::usable() const {
   return Enabled && (container_ == nullptr || container_->usable());
 }
 
-bool Control::takesFocus() const {
+bool Control::isField() const {
   switch (kind_) {
-    case ControlKind::PictureBox:
     case ControlKind::TextBox:
     case ControlKind::CommandButton:
     case ControlKind::CheckBox:
@@ -69,6 +68,10 @@ bool Control::takesFocus() const {
     default:
       return false;
   }
+}
+
+bool Control::takesFocus() const {
+  return isField() || kind_ == ControlKind::PictureBox;
 }
 
 double Control::outerUnit() const {

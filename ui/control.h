@@ -131,6 +131,8 @@ class Control : public PropertyOwner {
   bool shown() const;
   /// Enabled with everything that holds it.
   bool usable() const;
+  /// A person types, picks or pushes there, and a backend brings it as a field of its own. All others are drawn.
+  bool isField() const;
   bool takesFocus() const;
   /// Place on the form, in twips, not cut by what holds it.
   Area area() const;

@@ -4,7 +4,6 @@
 #include <utility>
 
 #include "ui/controls.h"
-#include "ui/drawing.h"
 #include "ui/form.h"
 
 namespace zelvs {
@@ -39,7 +38,7 @@ DirtyPlaces::Dirty DirtyPlaces::of(const std::vector<Control*>& changed) {
   Dirty dirty;
   dirty.whole = changed.size() > kManyPlaces;
   for (const Control* control : changed) {
-    if (isField(*control)) continue;
+    if (control->isField()) continue;
     const Area now = placeOf(*control);
     const Area before = std::exchange(drawn_[control], now);
     if (dirty.whole) continue;

@@ -10,21 +10,6 @@
 
 namespace zelvs {
 
-bool isField(const Control& control) {
-  switch (control.kind()) {
-    case ControlKind::TextBox:
-    case ControlKind::CommandButton:
-    case ControlKind::CheckBox:
-    case ControlKind::OptionButton:
-    case ControlKind::ComboBox:
-    case ControlKind::ListBox:
-    case ControlKind::TabStrip:
-      return true;
-    default:
-      return false;
-  }
-}
-
 namespace {
 
 constexpr Colour kBorderColour = kBlack;

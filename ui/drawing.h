@@ -8,11 +8,8 @@ namespace zelvs {
 
 class Form;
 
-/// Whether a backend brings the control as a field of its own: a person types, picks or pushes there. All others are
-/// drawn here.
-bool isField(const Control& control);
-
-/// Draws the inside of a form as far as it touches the dirty places: its ground, then what stands on it, back to front.
+/// Draws the inside of a form as far as it touches the dirty places: its ground, then what stands on it but for the
+/// fields (Control::isField), back to front.
 void drawForm(Painter& painter, const Form& form, std::span<const Area> dirty);
 
 }  // namespace zelvs

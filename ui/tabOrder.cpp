@@ -3,7 +3,6 @@
 #include <algorithm>
 #include <utility>
 
-#include "ui/drawing.h"
 #include "ui/form.h"
 
 namespace zelvs {
@@ -15,7 +14,7 @@ void appendInReadingOrder(std::vector<Control*> siblings, std::vector<Control*>&
     return std::pair<double, double>(a->Top, a->Left) < std::pair<double, double>(b->Top, b->Left);
   });
   for (Control* control : siblings) {
-    if (isField(*control)) order.push_back(control);
+    if (control->isField()) order.push_back(control);
     appendInReadingOrder(control->children(), order);
   }
 }

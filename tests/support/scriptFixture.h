@@ -5,8 +5,8 @@
 #include <vector>
 
 #include "script/scriptRunner.h"
-#include "ui/headless/headlessHands.h"
 #include "support/program.h"
+#include "ui/headless/headlessHands.h"
 
 namespace zelvs {
 

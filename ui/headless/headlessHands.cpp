@@ -6,7 +6,6 @@
 #include <utility>
 
 #include "ui/desk.h"
-#include "ui/drawing.h"
 #include "ui/listRows.h"
 #include "ui/textExtent.h"
 #include "ui/windowFrame.h"
@@ -143,7 +142,7 @@ void HeadlessHands::handDown() {
   Control* control = framePartAt(*seen.form, seen.spot) == FramePart::Inside
                          ? seen.form->controlAt(seen.spot.x, seen.spot.y)
                          : nullptr;
-  if (control == nullptr || !isField(*control)) {
+  if (control == nullptr || !control->isField()) {
     desk().hand.down(*seen.form, seen.spot, second);
   } else {
     pressField(*control, second);
