@@ -27,20 +27,29 @@ finish() {
 }
 trap finish EXIT
 
+# Waits until the command succeeds. usage: await WHAT COMMAND...
+await() {
+  what=$1
+  shift
+  tries=0
+  until "$@" >/dev/null 2>&1; do
+    tries=$((tries + 1))
+    [ "$tries" -lt 100 ] || { echo "no $what"; exit 1; }
+    sleep 0.1
+  done
+}
+managed() { xprop -root _NET_SUPPORTING_WM_CHECK | grep -q 'window id'; }
+
 status=0
 for size in 1920x1080 1366x768 1280x720; do
   echo "-- $size"
-  Xvfb "$DISPLAY" -screen 0 "${size}x24" >/dev/null 2>&1 &
+  # Without -noreset the server starts anew when its last client goes, and takes one that is just coming with it.
+  Xvfb "$DISPLAY" -noreset -screen 0 "${size}x24" >/dev/null 2>&1 &
   server=$!
-  tries=0
-  until xdpyinfo >/dev/null 2>&1; do
-    tries=$((tries + 1))
-    [ "$tries" -lt 50 ] || { echo "the screen does not come up"; exit 1; }
-    sleep 0.1
-  done
+  await screen xdpyinfo
   openbox >/dev/null 2>&1 &
   manager=$!
-  until xprop -root _NET_SUPPORTING_WM_CHECK 2>/dev/null | grep -q 'window id'; do sleep 0.1; done
+  await "window manager" managed
   # Each in a process of its own, as a program runs.
   for test in $("$program" --gtest_list_tests --gtest_filter="$filter" | sed -n 's/^  //p'); do
     xdotool mousemove 2 2

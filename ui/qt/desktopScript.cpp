@@ -110,7 +110,9 @@ class WindowedHands final : public Hands {
     }
     if (auto* tabs = qobject_cast<QTabBar*>(widget)) {
       if (row < 0 || row >= tabs->count()) return noRow(control, row);
-      tabs->setCurrentIndex(row);
+      const QPointF place = tabs->tabRect(row).center();
+      send(*tabs, QEvent::MouseButtonPress, place, true);
+      send(*tabs, QEvent::MouseButtonRelease, place, false);
       return {};
     }
     return gesture::pick(control, row);

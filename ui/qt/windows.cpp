@@ -189,6 +189,7 @@ void Windows::formHidden(Form& form) {
   const QScopedValueRollback<bool> following(following_, true);
   if (QWidget* window = windowOf(form)) window->hide();
   if (turnedTo_ == &form) turnedTo_ = nullptr;
+  if (asked_ == windowOf(form)) asked_ = nullptr;
 }
 
 void Windows::formUnloaded(Form& form) {
@@ -202,6 +203,7 @@ void Windows::formUnloaded(Form& form) {
   shown.canvas->forgetForm();
   if (auto* window = qobject_cast<FormWindow*>(shown.window)) window->forgetForm();
   shown.window->hide();
+  if (asked_ == shown.window) asked_ = nullptr;
   if (shown.window == frame_) {
     frame_ = nullptr;
     area_ = nullptr;
@@ -276,13 +278,25 @@ void Windows::stack() {
 void Windows::turnKeyboard() {
   const Form* active = desk().active();
   if (active == nullptr || canvasOf(*active) == nullptr) return;
-  if (active != turnedTo_ && active->kind() == FormKind::Window) windowOf(*active)->activateWindow();
+  // The desktop turns to the frame for what lies inside it.
+  QWidget* window = windowOf(*active)->window();
+  if (active != turnedTo_ && (asked_ != nullptr || QApplication::activeWindow() != window)) {
+    window->activateWindow();
+    asked_ = window;
+  }
   turnedTo_ = active;
   // One widget has the keyboard: the focused field's, or the canvas of the active window.
   const Control* focused = desk().focused();
   QWidget* field = focused != nullptr && &focused->form() == active ? canvasOf(*active)->widgetOf(*focused) : nullptr;
   QWidget* target = field != nullptr ? field : canvasOf(*active);
   if (QApplication::activePopupWidget() == nullptr && !target->hasFocus()) target->setFocus(Qt::OtherFocusReason);
+}
+
+void Windows::followDesktop() {
+  if (asked_ != nullptr) return;
+  Form* form = formOf(QApplication::activeWindow());
+  if (form == nullptr || form->kind() != FormKind::Window || !form->visible()) return;
+  if (form != desk().active()) gesture::activate(*form);
 }
 
 Form* Windows::formOf(const QObject* window) const {
@@ -312,6 +326,10 @@ bool Windows::eventFilter(QObject* watched, QEvent* event) {
   if (!watched->isWidgetType()) return false;
   watchHand(watched, event);
   switch (event->type()) {
+    case QEvent::MouseButtonPress:
+    case QEvent::KeyPress:
+      asked_ = nullptr;  // whatever the desktop does from here on is an answer to the user
+      return false;
     case QEvent::Close:
     case QEvent::Move:
     case QEvent::Resize:
@@ -339,7 +357,8 @@ bool Windows::windowEvent(Form& form, QWidget& window, QEvent& event) {
       if (form.kind() == FormKind::Frame || (sizable(form) && !following_)) takeSize(form, window);
       return false;
     case QEvent::WindowActivate:
-      if (!following_ && form.kind() == FormKind::Window && form.visible()) gesture::activate(form);
+      if (asked_ == &window) asked_ = nullptr;
+      if (!following_ && form.kind() == FormKind::Window) QTimer::singleShot(0, this, &Windows::followDesktop);
       return false;
     case QEvent::WindowStateChange:
       // A strip or a dialog has nothing to fill a screen with; a desktop's keys may ask for it all the same.

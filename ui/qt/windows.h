@@ -58,6 +58,9 @@ class Windows final : public QObject, public View {
   void placeChildren();
   void stack();
   void turnKeyboard();
+  /// Turns to the window that the desktop has turned to. It is asked when all the news are in: while windows open, the
+  /// desktop turns to one after the other, and tells of them late.
+  void followDesktop();
   void takePlace(Form& form, const QWidget& window);
   void takeSize(Form& form, const QWidget& window);
   bool windowEvent(Form& form, QWidget& window, QEvent& event);
@@ -69,6 +72,7 @@ class Windows final : public QObject, public View {
   QSet<Form*> placed_;              // title and place of these are
   std::vector<Form*> stacked_;      // front to back, as the windows lie now
   const Form* turnedTo_ = nullptr;  // as the desktop has been told
+  const QWidget* asked_ = nullptr;  // the window that the desktop was asked to turn to, until it has
   QMainWindow* frame_ = nullptr;
   ClientArea* area_ = nullptr;
   bool scheduled_ = false;
