@@ -28,7 +28,7 @@ int main(int argc, char** argv) {
   const QDir made(QString::fromLocal8Bit(argv[2]));
   const auto findings = zelvs::pictureFindings(stored, made);
   for (const auto& [file, what] : findings)
-    std::printf("%s %s\n", file.c_str(), what.c_str());
+    std::printf("%s: %s\n", file.c_str(), what.c_str());
   if (findings.empty()) return 0;
   if (!taking) {
     std::printf("Compare %s with %s.\n", argv[2], argv[1]);

@@ -11,40 +11,84 @@
 
 namespace zelvs {
 
-/// How far a channel of a pixel may be off, in levels of 255. A letter that another machine sets a quarter of a pixel
-/// further is off by less, at its edges; a stroke that is there or not, or a lamp that is lit or dark, by more.
-inline constexpr int kForgivenLevels = 64;
-/// How many pixels of a picture may be off by more. It is a number and no share: a digit of a few dozen pixels counts
-/// the same on a whole screen as in a small window.
-inline constexpr int kForgivenPixels = 4;
+// Another machine may set a letter a quarter of a pixel further: its edges change a good deal and its ink hardly moves.
+// So pixels are compared for strokes that come, go or move by a whole pixel, and what small places show on average for
+// colours. Both stay above what text a quarter of a pixel further makes, 136 and 38 levels. There is no share
+// that may differ: a digit counts the same on a whole screen as in a small window.
 
-/// How two pictures differ; empty when they do not, but for what is forgiven.
-inline std::string pictureDifference(QImage stored, QImage made) {
-  const auto sizeOf = [](const QImage& picture) {
-    return std::to_string(picture.width()) + "x" + std::to_string(picture.height());
-  };
-  if (stored.size() != made.size()) return "is " + sizeOf(made) + " and was " + sizeOf(stored);
-  stored.convertTo(QImage::Format_RGB32);
-  made.convertTo(QImage::Format_RGB32);
-  int pixels = 0;
-  int most = 0;
+/// How far a channel of a pixel may be off, in levels of 255.
+inline constexpr int kForgivenStroke = 150;
+/// The side of a place, in pixels, and how far a channel may be off there on average.
+inline constexpr int kPlace = 4;
+inline constexpr int kForgivenPlace = 48;
+
+/// What is off by more than is forgiven.
+struct PixelsOff {
+  int count = 0;
+  int most = 0;  ///< levels
   QRect where;
+};
+
+/// The pictures are of one size.
+inline PixelsOff pixelsOff(const QImage& stored, const QImage& made, int forgiven) {
+  PixelsOff off;
   for (int y = 0; y < made.height(); ++y) {
     for (int x = 0; x < made.width(); ++x) {
       const QRgb a = stored.pixel(x, y);
       const QRgb b = made.pixel(x, y);
       const int levels =
           std::max({std::abs(qRed(a) - qRed(b)), std::abs(qGreen(a) - qGreen(b)), std::abs(qBlue(a) - qBlue(b))});
-      if (levels <= kForgivenLevels) continue;
-      ++pixels;
-      most = std::max(most, levels);
-      where |= QRect(x, y, 1, 1);
+      if (levels <= forgiven) continue;
+      ++off.count;
+      off.most = std::max(off.most, levels);
+      off.where |= QRect(x, y, 1, 1);
     }
   }
-  if (pixels <= kForgivenPixels) return {};
-  return "differs in " + std::to_string(pixels) + " pixels, by up to " + std::to_string(most) + " levels, within x " +
-         std::to_string(where.left()) + " to " + std::to_string(where.right()) + ", y " + std::to_string(where.top()) +
-         " to " + std::to_string(where.bottom());
+  return off;
+}
+
+/// One pixel a place: what it shows on average. Those at the right and lower edge may be smaller.
+inline QImage averages(const QImage& picture) {
+  QImage small((picture.size() + QSize(kPlace - 1, kPlace - 1)) / kPlace, QImage::Format_RGB32);
+  for (int y = 0; y < small.height(); ++y) {
+    for (int x = 0; x < small.width(); ++x) {
+      const QRect place = QRect(x * kPlace, y * kPlace, kPlace, kPlace) & picture.rect();
+      int red = 0, green = 0, blue = 0;
+      for (int row = place.top(); row <= place.bottom(); ++row) {
+        for (int column = place.left(); column <= place.right(); ++column) {
+          const QRgb pixel = picture.pixel(column, row);
+          red += qRed(pixel);
+          green += qGreen(pixel);
+          blue += qBlue(pixel);
+        }
+      }
+      const int pixels = place.width() * place.height();
+      small.setPixel(x, y, qRgb(red / pixels, green / pixels, blue / pixels));
+    }
+  }
+  return small;
+}
+
+/// How two pictures differ; empty when they do not, but for what is forgiven.
+inline std::string pictureDifference(const QImage& stored, const QImage& made) {
+  const auto sizeOf = [](const QSize& size) {
+    return QString::number(size.width()) + "x" + QString::number(size.height());
+  };
+  if (stored.size() != made.size()) return (sizeOf(made.size()) + ", was " + sizeOf(stored.size())).toStdString();
+
+  const PixelsOff strokes = pixelsOff(stored, made, kForgivenStroke);
+  const PixelsOff colours = pixelsOff(averages(stored), averages(made), kForgivenPlace);
+  if (strokes.count == 0 && colours.count == 0) return {};
+  const QRect where = strokes.where | QRect(colours.where.topLeft() * kPlace, colours.where.size() * kPlace);
+  return QString("%1 pixels by up to %2 levels, %3 places by up to %4 on average, within %5 from %6,%7")
+      .arg(strokes.count)
+      .arg(strokes.most)
+      .arg(colours.count)
+      .arg(colours.most)
+      .arg(sizeOf(where.size()))
+      .arg(where.x())
+      .arg(where.y())
+      .toStdString();
 }
 
 /// A picture that is not as it should be, and what is wrong with it.
@@ -63,7 +107,7 @@ inline std::vector<PictureFinding> pictureFindings(const QDir& stored, const QDi
   };
   for (const QString& file : picturesIn(stored)) {
     if (!made.exists(file)) {
-      find(file, "is stored and not made");
+      find(file, "stored and not made");
       continue;
     }
     const QImage was(stored.filePath(file));
@@ -71,7 +115,7 @@ inline std::vector<PictureFinding> pictureFindings(const QDir& stored, const QDi
     find(file, was.isNull() || is.isNull() ? "cannot be read" : pictureDifference(was, is));
   }
   for (const QString& file : picturesIn(made)) {
-    if (!stored.exists(file)) find(file, "is made and not stored");
+    if (!stored.exists(file)) find(file, "made and not stored");
   }
   return findings;
 }
