@@ -67,6 +67,16 @@ TEST_F(PictureDifferenceTest, FindsALampOfAShadeThatIsAlike) {
   EXPECT_EQ(differenceFrom({.lamp = {0x22, 0xE0 - 48, 0x3C}}), "");
 }
 
+TEST_F(PictureDifferenceTest, PlacesCoverThePictureToItsEdges) {
+  QImage picture(9, 8, QImage::Format_RGB32);
+  picture.fill(Qt::black);
+  picture.setPixelColor(8, 7, QColor(100, 80, 60));
+  const QImage places = averages(picture);
+  ASSERT_EQ(places.size(), QSize(3, 2));
+  EXPECT_EQ(places.pixelColor(2, 1), QColor(25, 20, 15));
+  EXPECT_EQ(places.pixelColor(1, 1), QColor(Qt::black));
+}
+
 TEST_F(PictureDifferenceTest, FindsOnePixelThatIsFarOff) {
   QImage dotted = Look().drawn();
   dotted.setPixelColor(1919, 1079, QColor(192, 192, 192 - 150));

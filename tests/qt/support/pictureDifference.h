@@ -11,10 +11,10 @@
 
 namespace zelvs {
 
-// Another machine may set a letter a quarter of a pixel further: its edges change a good deal and its ink hardly moves.
-// So pixels are compared for strokes that come, go or move by a whole pixel, and what small places show on average for
-// colours. Both stay above what text a quarter of a pixel further makes, 136 and 38 levels. There is no share
-// that may differ: a digit counts the same on a whole screen as in a small window.
+// Another machine may set a letter a quarter of a pixel further along its line: its edges change a good deal and its
+// ink hardly moves. So pixels are compared for strokes that come, go or move by a whole pixel, and what small places
+// show on average for colours. Both bounds stand above what such letters make in our pictures, 136 and 38 levels. There
+// is no share that may differ: a digit counts the same on a whole screen as in a small window.
 
 /// How far a channel of a pixel may be off, in levels of 255.
 inline constexpr int kForgivenStroke = 150;
@@ -49,7 +49,8 @@ inline PixelsOff pixelsOff(const QImage& stored, const QImage& made, int forgive
 
 /// One pixel a place: what it shows on average. Those at the right and lower edge may be smaller.
 inline QImage averages(const QImage& picture) {
-  QImage small((picture.size() + QSize(kPlace - 1, kPlace - 1)) / kPlace, QImage::Format_RGB32);
+  const auto placesIn = [](int pixels) { return (pixels + kPlace - 1) / kPlace; };
+  QImage small(placesIn(picture.width()), placesIn(picture.height()), QImage::Format_RGB32);
   for (int y = 0; y < small.height(); ++y) {
     for (int x = 0; x < small.width(); ++x) {
       const QRect place = QRect(x * kPlace, y * kPlace, kPlace, kPlace) & picture.rect();
