@@ -1,4 +1,5 @@
-# Makes the pictures of this folder: run it here with zelvs-script --desktop.
+# Makes the pictures of this folder, which a test compares; CONTRIBUTING.md says how new ones are taken.
+#status 0
 wait 200
 poke 0x82 0xFF 0x55 0x0F 0xF0 0x81 0x18 0xAA 0x55 0x3C 0xC3
 wait 100
