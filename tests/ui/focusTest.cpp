@@ -172,6 +172,56 @@ TEST_F(FocusTest, AHandlerThatHidesTheNextControlLeavesNobodyWithTheFocus) {
   EXPECT_EQ(desk().focused(), nullptr);
 }
 
+TEST_F(FocusTest, AControlIsLeftOnceWhateverItsHandlerShowsMeanwhile) {
+  gesture::focus(frmFields->txtFirst);
+  takeNotes();
+  int left = 0;
+  frmFields->txtFirst.onLostFocus = [&left] {
+    ++left;
+    frmOther->show(ShowMode::Modal);
+    EXPECT_EQ(desk().active(), frmFields.form());
+    EXPECT_EQ(desk().focused(), nullptr) << "its window is back, the control that is being left is not";
+  };
+  platform.onModal = [](Form& form) { form.hide(); };
+  gesture::focus(frmFields->txtSecond);
+  EXPECT_EQ(left, 1);
+  EXPECT_EQ(desk().focused(), &frmFields->txtSecond);
+  EXPECT_EQ(takeNotes(), (Lines{"frmFields deactivated", "frmFields activated", "txtSecond got"}));
+}
+
+TEST_F(FocusTest, AControlThatIsBeingLeftDoesNotTakeItselfBack) {
+  gesture::focus(frmFields->txtFirst);
+  frmFields->txtFirst.onLostFocus = [] { desk().focus(&frmFields->txtFirst); };
+  gesture::focus(frmFields->txtSecond);
+  EXPECT_EQ(desk().focused(), &frmFields->txtSecond);
+  gesture::focus(frmFields->txtFirst);
+  EXPECT_EQ(desk().focused(), &frmFields->txtFirst) << "left, it takes the focus like any other";
+}
+
+TEST_F(FocusTest, OfNestedLeavingsEachHoldsItsOwn) {
+  gesture::focus(frmFields->txtFirst);
+  // The first one passes the focus on; the next gives it back to the first, which is still being left.
+  frmFields->txtFirst.onLostFocus = [] {
+    note("first left");
+    desk().focus(&frmFields->txtInner);
+    desk().focus(&frmFields->cmdPush);
+    note("first done");
+  };
+  frmFields->txtInner.onLostFocus = [] {
+    note("inner left");
+    desk().focus(&frmFields->txtFirst);
+    EXPECT_EQ(desk().focused(), nullptr);
+    desk().focus(&frmFields->txtInner);
+    EXPECT_EQ(desk().focused(), nullptr);
+  };
+  takeNotes();
+  gesture::focus(frmFields->txtSecond);
+  EXPECT_EQ(takeNotes(), (Lines{"first left", "txtInner got", "inner left", "first done"}));
+  EXPECT_EQ(desk().focused(), &frmFields->cmdPush);
+  gesture::focus(frmFields->txtFirst);
+  EXPECT_EQ(desk().focused(), &frmFields->txtFirst) << "all of them are over";
+}
+
 TEST_F(FocusTest, WhatHasNoFaceTakesNoGesture) {
   for (Control* control : {static_cast<Control*>(&frmFields->timBeat), static_cast<Control*>(&frmFields->mmcSound)}) {
     EXPECT_EQ(gesture::click(*frmFields, control), control->fullName() + " has no face");
