@@ -425,6 +425,14 @@ TEST_F(HandTest, AKeyGoesToTheModalWindowOrElseToTheActiveOne) {
   };
   frmBox->show(ShowMode::Modal);
   EXPECT_EQ(takeNotes(), Lines{"cmdAnswer click"});
+  platform.onModal = [&](Form& box) {
+    form().show();
+    EXPECT_EQ(desk().active(), &form());
+    EXPECT_TRUE(hand.key(enter)) << "the program showed another one over it";
+    box.hide();
+  };
+  frmBox->show(ShowMode::Modal);
+  EXPECT_EQ(takeNotes(), Lines{"cmdAnswer click"});
   form().hide();
   EXPECT_FALSE(hand.key(enter)) << "there is no window";
   EXPECT_EQ(takeNotes(), Lines{});

@@ -66,8 +66,6 @@ TEST_F(WindowPlaceTest, WhatDoesNotFitInBringsABar) {
   EXPECT_EQ(frmMDI->clientArea(), (Area{1000, clientTop(), 12000, 9000 - kScrollBar}));
   leaf().move(0, 9000 - 2000 + 15);
   EXPECT_EQ(frmMDI->clientArea(), (Area{1000, clientTop(), 12000 - kScrollBar, 9000}));
-  leaf().move(-15, 0);
-  EXPECT_EQ(frmMDI->clientArea(), (Area{1000, clientTop(), 12000, 9000})) << "12000 hold all from -15 on";
   leaf().move(-15, 9000 - 2000);
   frmTwig->move(12000 - 3000, 0);
   frmTwig->show();
@@ -283,6 +281,7 @@ TEST_F(WindowPlaceTest, KeptInReachItGoesNoFurtherThanItMust) {
   leaf().keepInReach();
   expectAt(leaf(), kClientEdge + kGrip - 3000, 1003);
   leaf().setFloating(false);
+  leaf().hide();  // else the area would reach as far as it goes
   leaf().move(-99000, -99000);
   leaf().keepInReach();
   expectAt(leaf(), -99000, -99000);
