@@ -1,5 +1,7 @@
 // The frame round a window's inside: which part of it lies where, how it is drawn, and which window is in front.
 
+#include <algorithm>
+#include <cmath>
 #include <string>
 #include <vector>
 
