@@ -10,7 +10,7 @@ namespace zelvs {
 int rowCountOf(const Control& control);
 /// The selected row or tab, -1 for none.
 int selectedRowOf(const Control& control);
-/// Selects a row that is there. A row that is selected already is clicked all the same.
+/// Selects a row that is there. A list's row that is selected already is clicked all the same; a tab that shows is not.
 void pickRow(Control& control, int row);
 
 /// A combo box without a field: its rows lie open for as long as it is visible.

@@ -14,7 +14,7 @@ struct Spot {
 };
 
 /// A place where a hand reaches the control, or for null the form itself, with nothing in front of it: its middle if
-/// that is free. Nothing when it is covered everywhere.
+/// that is free, else one of a grid of eighths. Nothing when all of them are covered; strips between them do not count.
 std::optional<Spot> freePlace(const Form& form, const Control* control);
 
 }  // namespace zelvs

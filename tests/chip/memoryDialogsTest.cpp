@@ -100,7 +100,7 @@ TEST_F(MemoryDialogTest, WritesAWord) {
     write(0x101, "abcd");
     EXPECT_EQ(chipMemory[0x100], 0xCD);
     EXPECT_EQ(chipMemory[0x101], 0xAB);
-    EXPECT_EQ(message(), "");
+    EXPECT_EQ(takeMessage(), "");
     EXPECT_EQ(reds(), "");
   }
 }
@@ -122,19 +122,19 @@ TEST_F(MemoryDialogTest, TheReportByteIsProtectedFromWordsDuringAScan) {
   chipMemory[0x02] = 0x00;
   chipMemory[0x03] = 0x14;
   write(0x02, "1401");
-  EXPECT_EQ(message(), "");
+  EXPECT_EQ(takeMessage(), "");
   EXPECT_EQ(chipMemory[0x02], 0x01);
   write(0x02, "2002");
   EXPECT_EQ(frmMessage->owner(), frmEditMemory.form());
-  EXPECT_EQ(message(), "スキャン中、コントロールワードの上位バイトはライトプロテクト。");
+  EXPECT_EQ(takeMessage(), "スキャン中、コントロールワードの上位バイトはライトプロテクト。");
   EXPECT_EQ(chipMemory[0x02], 0x02);
   EXPECT_EQ(chipMemory[0x03], 0x14);
   write(0x03, "55", 1);
-  EXPECT_EQ(message(), "");
+  EXPECT_EQ(takeMessage(), "");
   EXPECT_EQ(chipMemory[0x03], 0x55) << "a byte gets through on a 16-bit bus";
   frmHard->picScanLed.Tag = "0";
   write(0x02, "2002");
-  EXPECT_EQ(message(), "");
+  EXPECT_EQ(takeMessage(), "");
   EXPECT_EQ(chipMemory[0x03], 0x20);
 }
 
@@ -145,7 +145,7 @@ TEST_F(MemoryDialogTest, WhatItWasOpenedOnIsWrittenEvenDuringAScan) {
     frmHard->picScanLed.Tag = "1";
     chipMemory[0x100] = chipMemory[0x101] = 0;
     write(0x100, cpu == 0 ? "1234" : "34");
-    EXPECT_EQ(message(), "") << "its window has asked, or an ASCII cell has not";
+    EXPECT_EQ(takeMessage(), "") << "its window has asked, or an ASCII cell has not";
     EXPECT_EQ(chipMemory[0x100], 0x34);
     EXPECT_EQ(chipMemory[0x101], cpu == 0 ? 0x12 : 0);
   }
@@ -155,11 +155,11 @@ TEST_F(MemoryDialogTest, AProtectedWordIsWrittenInTwoHalves) {
   startIdle(1);
   chipMemory[kHprHigh] = 0x10;
   write(0x100, "34");
-  EXPECT_EQ(message(), "ハザードプロテクト中。ライトテンポラリバッファへ書き込みました。");
+  EXPECT_EQ(takeMessage(), "ハザードプロテクト中。ライトテンポラリバッファへ書き込みました。");
   EXPECT_EQ(chipMemory[0x100], 0);
   EXPECT_EQ(frmRegister->lblValH(3).Caption.get(), "11") << "the register window is refreshed";
   write(0x101, "12");
-  EXPECT_EQ(message(), "");
+  EXPECT_EQ(takeMessage(), "");
   EXPECT_EQ(chipMemory[0x100], 0x34);
   EXPECT_EQ(chipMemory[0x101], 0x12);
   EXPECT_EQ(chipMemory[kHprHigh], 0x10);
@@ -222,11 +222,11 @@ TEST_F(MemoryReadTest, OpensOverThePanelOnAnEightBitBusOnly) {
     startIdle(cpu);
     openMemoryRead();
     if (cpu % 2 == 0) {
-      EXPECT_EQ(message(), "８ビットバス選択時のみ機能します");
+      EXPECT_EQ(takeMessage(), "８ビットバス選択時のみ機能します");
       EXPECT_FALSE(frmMemoryRead.visible());
       continue;
     }
-    EXPECT_EQ(message(), "");
+    EXPECT_EQ(takeMessage(), "");
     ASSERT_TRUE(frmMemoryRead.visible());
     EXPECT_FALSE(frmMemoryRead->modal());
     EXPECT_EQ(frmMemoryRead->owner(), frmMDI.form());
@@ -292,7 +292,7 @@ TEST_F(MemoryReadTest, AWrongAddressBeepsAndReadsNothing) {
     EXPECT_EQ(desk().focused(), &frmMemoryRead->txtAddress);
     EXPECT_EQ(frmMemoryRead->lblData.Caption.get(), "??");
     EXPECT_EQ(chipMemory[kHprLow], 0x11);
-    EXPECT_EQ(message(), "");
+    EXPECT_EQ(takeMessage(), "");
   }
   chipMemory[kHprLow] = 0;
   frmMemoryRead->initReadMemory();

@@ -132,7 +132,7 @@ TEST_F(RegisterDialogTest, AWriteRefreshesTheWindowAndTakesTheMarksAway) {
   EXPECT_EQ(frmRegister->lblValL(3).Caption.get(), "10");
   EXPECT_EQ(frmRegister->lblBinH(3).Caption.get(), " 0001_0000");
   EXPECT_EQ(colours(3), "bbbb");
-  EXPECT_EQ(message(), "");
+  EXPECT_EQ(takeMessage(), "");
 }
 
 TEST_F(RegisterDialogTest, ScrStartsTheScanAtTheNextStep) {
@@ -158,7 +158,7 @@ TEST_F(RegisterDialogTest, ARefusalComesBesideTheDialogWhenThatIsHidden) {
   write(1, "0505");
   EXPECT_EQ(frmMessage->owner(), frmEditRegister.form());
   EXPECT_EQ(frmMessage->Left + std::nearbyint(frmMessage->Width / 2), 453 * 15.0) << "6800 twips, cut to whole pixels";
-  EXPECT_EQ(message(), "入力された値が不適切であるため、書き込まれません。");
+  EXPECT_EQ(takeMessage(), "入力された値が不適切であるため、書き込まれません。");
   EXPECT_EQ(platform.beeps(), beeps + 1);
   EXPECT_EQ(chipMemory[kScrLow], 0);
   EXPECT_EQ(chipMemory[kScrHigh], 0);
@@ -177,7 +177,7 @@ TEST_F(RegisterDialogTest, AMismatchIsAskedInTheBox) {
   write(1, "0005");
   EXPECT_EQ(boxes.size(), 2u);
   EXPECT_EQ(chipMemory[kScrLow], 0);
-  EXPECT_EQ(message(), "");
+  EXPECT_EQ(takeMessage(), "");
 }
 
 TEST_F(RegisterDialogTest, AClearedStatusLetsAHaltedScanGoOn) {

@@ -11,8 +11,8 @@
 #include "shell/frmMDI.h"
 #include "shell/frmVersion.h"
 #include "support/program.h"
+#include "support/userFixture.h"
 #include "text/codePage932.h"
-#include "ui/gesture.h"
 #include "ui/inspect.h"
 
 namespace zelvs {
@@ -51,8 +51,7 @@ class NavigationTest : public ProgramTest {
     start();
   }
 
-  static void click(Control& control) { EXPECT_EQ(gesture::click(control.form(), &control), ""); }
-  static void openList() { EXPECT_EQ(gesture::doubleClick(*frmMDI, &frmMDI->lblNagigator), ""); }
+  static void openList() { doubleClick(frmMDI->lblNagigator); }
   /// Opens the list, starts one of its lessons and comes back from the list.
   void startLesson(int row) {
     platform.onModal = [row](Form&) {

@@ -33,9 +33,7 @@ class DumpHandsTest : public DumpTest {
     doubleClick(cell);
     if (opened) return kOpened;
     EXPECT_TRUE(frmMessage.visible());
-    const std::string text = frmMessage->lblMessage.Caption;
-    frmMessage->hide();
-    return text;
+    return takeMessage();
   }
 };
 

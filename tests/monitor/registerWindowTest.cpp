@@ -42,7 +42,7 @@ TEST_F(RegisterWindowTest, EveryValueCellOpensItsRegister) {
       };
       doubleClick(cell(row, which));
       EXPECT_EQ(opened, row == 2 ? 0 : 1);
-      EXPECT_EQ(message(), row == 2 ? "このレジスタはリードオンリーです。" : "");
+      EXPECT_EQ(takeMessage(), row == 2 ? "このレジスタはリードオンリーです。" : "");
     }
   }
 }
@@ -53,7 +53,7 @@ TEST_F(RegisterWindowTest, BcrIsRefusedWhileAScanRuns) {
     (continuous ? continuousScanActive : oneShotScanActive) = kTrue;
     for (int which = 0; which < 4; ++which) {
       doubleClick(cell(8, which));
-      EXPECT_EQ(message(), "スキャン中はライトプロテクト。");
+      EXPECT_EQ(takeMessage(), "スキャン中はライトプロテクト。");
     }
     EXPECT_EQ(opened, 0);
     doubleClick(cell(4, 0));

@@ -235,7 +235,7 @@ TEST_F(CablingTest, CablesAndSlavesMayBePulledDuringAScan) {
   ASSERT_EQ(continuousScanActive, kTrue);
   turn(3);
   doubleClick(frmHard->picBridge(0));
-  EXPECT_EQ(refusal(), "");
+  EXPECT_EQ(takeMessage(), "");
   EXPECT_EQ(tags(), "1 1 0 | 1 0");
   EXPECT_FALSE(frmHard->picBridge(0).Visible);
 }
@@ -339,7 +339,7 @@ TEST_F(CablingTest, TheJumperIsRefusedDuringEitherScan) {
   for (Flag* scan : {&continuousScanActive, &oneShotScanActive}) {
     *scan = kTrue;
     doubleClick(frmHard->picJumper(1));
-    EXPECT_EQ(refusal(), "スキャン中の変更は禁止です。");
+    EXPECT_EQ(takeMessage(), "スキャン中の変更は禁止です。");
     EXPECT_TRUE(asked.empty());
     JumperLook::expect(true);
     *scan = kFalse;

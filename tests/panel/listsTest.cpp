@@ -199,7 +199,7 @@ TEST_F(ListsTest, AnAddressMayChangeDuringAScanAndCountsFromTheNextStep) {
   simulationStep();
   ASSERT_EQ(continuousScanActive, kTrue);
   chooseAddress(2, 4 + 5);
-  EXPECT_EQ(refusal(), "");
+  EXPECT_EQ(takeMessage(), "");
   EXPECT_EQ(saSetting[2], 9);
   for (int i = 0; i < 4; ++i)
     simulationStep();

@@ -393,10 +393,10 @@ TEST_F(PinsTest, UnreadSerialDataRefusesMore) {
   };
   for (int i = 0; i < 4; ++i) {
     doubleClick(frmHard->picSDI(i));
-    EXPECT_EQ(refusal(), "") << i;
+    EXPECT_EQ(takeMessage(), "") << i;
     serialPending[i] = kTrue;
     doubleClick(frmHard->picSDI(i));
-    EXPECT_EQ(refusal(), "SEがローレベル(LED点灯)中は入力できません。") << i;
+    EXPECT_EQ(takeMessage(), "SEがローレベル(LED点灯)中は入力できません。") << i;
     EXPECT_EQ(serialPending[i], kTrue);
   }
   EXPECT_EQ(opened, "frmEditSerial frmEditSerial frmEditSerial frmEditSerial ");

@@ -613,7 +613,7 @@ TEST_F(SerialEditorTest, ALitLampRefusesInEveryRunMode) {
       serialPending[i] = kTrue;
       serialEditBoard = 9;
       doubleClick(frmHard->picSDI(i));
-      EXPECT_EQ(message(), "SEがローレベル(LED点灯)中は入力できません。") << mode;
+      EXPECT_EQ(takeMessage(), "SEがローレベル(LED点灯)中は入力できません。") << mode;
       EXPECT_EQ(opened, before);
       EXPECT_EQ(serialEditBoard, 9) << "nothing more happens";
       EXPECT_EQ(serialPending[i], kTrue);
@@ -626,7 +626,7 @@ TEST_F(SerialEditorTest, ALitLampRefusesInEveryRunMode) {
 TEST_F(SerialEditorTest, OnlyTheFlagsOwnTruthRefuses) {
   serialPending[0] = 1;
   open(0, [] {});
-  EXPECT_EQ(message(), "");
+  EXPECT_EQ(takeMessage(), "");
 }
 
 // ---- To the center and back
@@ -642,7 +642,7 @@ TEST_F(SerialEditorTest, TheCenterFetchesTheWordAndTheLampGoesDark) {
     EXPECT_EQ(chipMemory[2 * station + 1] & 1, 1) << "the report says that there is a word";
     EXPECT_EQ(led(i), "ilsLED_G 2");
     doubleClick(frmHard->picSDI(i));
-    EXPECT_EQ(message(), "SEがローレベル(LED点灯)中は入力できません。");
+    EXPECT_EQ(takeMessage(), "SEがローレベル(LED点灯)中は入力できません。");
     chipMemory[2 * station] = 7;
     platform.advance(100);
     EXPECT_EQ(chipMemory[0x480 + 2 * station], 0x01);

@@ -8,7 +8,7 @@
 #include "shell/frmMDI.h"
 #include "support/bitmap.h"
 #include "support/program.h"
-#include "ui/gesture.h"
+#include "support/userFixture.h"
 
 namespace zelvs {
 namespace {
@@ -28,7 +28,6 @@ class ViewersTest : public ProgramTest {
     start();
   }
 
-  static void doubleClick(Control& control) { EXPECT_EQ(gesture::doubleClick(control.form(), &control), ""); }
   static std::string main() { return frmKAIROZU->picKAIROZU.Picture.get().file->name; }
   static std::string overlay() {
     return frmKAIROZU->picHalf.Visible ? frmKAIROZU->picHalf.Picture.get().file->name : std::string();

@@ -11,7 +11,7 @@
 #include "lessons/frmNavigation.h"
 #include "qt/support/desktop.h"
 #include "shell/frmMDI.h"
-#include "ui/gesture.h"
+#include "support/userFixture.h"
 
 namespace zelvs {
 namespace {
@@ -26,7 +26,6 @@ class LessonTest : public DesktopTest {
     start();
   }
 
-  static void click(Control& control) { EXPECT_EQ(gesture::click(control.form(), &control), ""); }
   /// Opens the list; what is to be done inside is done by its loop.
   template <class Inside>
   static void openList(Inside inside) {
@@ -34,7 +33,7 @@ class LessonTest : public DesktopTest {
       inside();
       if (frmNaviList.visible()) frmNaviList->hide();
     });
-    EXPECT_EQ(gesture::doubleClick(*frmMDI, &frmMDI->lblNagigator), "");
+    doubleClick(frmMDI->lblNagigator);
   }
   static QWidget* windowOf(const Form* form) { return canvasOf(form)->window(); }
 };

@@ -16,7 +16,7 @@
 #include "shell/frmMDI.h"
 #include "shell/iniFile.h"
 #include "support/program.h"
-#include "ui/gesture.h"
+#include "support/userFixture.h"
 #include "ui/runTimeError.h"
 
 namespace zelvs {
@@ -49,8 +49,8 @@ class DefaultsTest : public ProgramTest {
     clearState();
     programFolder = folder.path();
   }
-  static void open() { EXPECT_EQ(gesture::click(*frmMDI, &frmMDI->lblDefault), ""); }
-  static void press(int button) { EXPECT_EQ(gesture::click(*frmDefault, &frmDefault->cmdAction(button)), ""); }
+  static void open() { click(frmMDI->lblDefault); }
+  static void press(int button) { click(frmDefault->cmdAction(button)); }
   static void setNow() { press(1); }
   static void save() { press(2); }
   static void makerValues() { press(3); }

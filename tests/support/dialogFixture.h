@@ -7,13 +7,11 @@
 #include "chip/frmEditRegister.h"
 #include "chip/frmMemoryRead.h"
 #include "dialogs/frmDialog.h"
-#include "dialogs/frmMessage.h"
 #include "link/simulation.h"
 #include "monitor/frmRegister.h"
 #include "shell/frmMDI.h"
 #include "support/program.h"
-#include "text/utf8.h"
-#include "ui/gesture.h"
+#include "support/userFixture.h"
 
 namespace zelvs {
 
@@ -41,20 +39,6 @@ class DialogTest : public ProgramTest {
       EXPECT_FALSE(form.visible());
       EXPECT_TRUE(FormPlace::named(form.name())->loaded()) << "hidden, not unloaded";
     };
-  }
-
-  static void click(Control& control) { EXPECT_EQ(gesture::click(control.form(), &control), ""); }
-  static void doubleClick(Control& control) { EXPECT_EQ(gesture::doubleClick(control.form(), &control), ""); }
-  static void type(TextBox& field, const std::string& text) {
-    for (const char32_t character : charactersOf(text))
-      EXPECT_EQ(gesture::type(field, character), "");
-  }
-  /// The text of the pop-up, which goes away; empty when there is none.
-  static std::string message() {
-    if (!frmMessage.visible()) return {};
-    std::string text = frmMessage->lblMessage.Caption;
-    frmMessage->hide();
-    return text;
   }
 
   std::function<void()> inside;

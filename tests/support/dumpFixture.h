@@ -2,7 +2,6 @@
 
 #include <string>
 
-#include "dialogs/frmMessage.h"
 #include "monitor/frmDumpC17.h"
 #include "monitor/frmDumpCDIO.h"
 #include "monitor/frmDumpDRC.h"
@@ -10,8 +9,8 @@
 #include "monitor/mduMemoryWindow.h"
 #include "shell/frmMDI.h"
 #include "support/program.h"
+#include "support/userFixture.h"
 #include "text/hexText.h"
-#include "ui/gesture.h"
 
 namespace zelvs {
 
@@ -38,12 +37,10 @@ class DumpTest : public ProgramTest {
   }
   /// As the user would: at the list on the panel.
   static void chooseCpu(int type) {
-    EXPECT_EQ(gesture::doubleClick(*frmHard, &frmHard->picCPU), "");
+    doubleClick(frmHard->picCPU);
     EXPECT_EQ(gesture::pick(frmHard->cmbCPUType, type), "");
     EXPECT_EQ(cpuType, type);
   }
-  static void click(Control& control) { EXPECT_EQ(gesture::click(control.form(), &control), ""); }
-  static void doubleClick(Control& control) { EXPECT_EQ(gesture::doubleClick(control.form(), &control), ""); }
   static void pointAt(Control& control) { EXPECT_EQ(gesture::move(control.form(), &control), ""); }
   static bool red(const Control& control) { return control.ForeColor == kRed; }
   static int redCells(const FrmDump& form) {

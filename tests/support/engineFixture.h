@@ -5,6 +5,7 @@
 #include "link/simulation.h"
 #include "state/randomSource.h"
 #include "support/program.h"
+#include "support/userFixture.h"
 
 namespace zelvs {
 
@@ -78,10 +79,5 @@ class EngineTest : public ProgramTest {
 
   static void cutLink(int connector) { frmHard->picBOARD2_RXD(connector).Tag = "0"; }
 };
-
-/// How a picture prints: list and number.
-inline std::string shown(const Picture& picture) {
-  return picture.list == nullptr ? "none" : picture.list->name() + " " + std::to_string(picture.image);
-}
 
 }  // namespace zelvs

@@ -4,12 +4,11 @@
 #include <vector>
 
 #include "dialogs/frmDialog.h"
-#include "dialogs/frmMessage.h"
 #include "link/simulation.h"
 #include "panel/resets.h"
 #include "shell/frmMDI.h"
 #include "support/program.h"
-#include "ui/gesture.h"
+#include "support/userFixture.h"
 
 namespace zelvs {
 
@@ -34,13 +33,6 @@ class PanelTest : public ProgramTest {
     };
   }
 
-  static void click(Control& control) { EXPECT_EQ(gesture::click(control.form(), &control), ""); }
-  static void doubleClick(Control& control) { EXPECT_EQ(gesture::doubleClick(control.form(), &control), ""); }
-  /// A double click whose button is still down.
-  static void hold(Control& control) { EXPECT_EQ(gesture::doubleClick(control.form(), &control, false), ""); }
-  static void press(Control& control) { EXPECT_EQ(gesture::press(control.form(), &control), ""); }
-  static void release(Control& control) { EXPECT_EQ(gesture::release(control.form(), &control), ""); }
-
   /// Opens a list at its picture and picks a row.
   static void choose(Control& picture, ComboBox& list, int row) {
     doubleClick(picture);
@@ -48,14 +40,6 @@ class PanelTest : public ProgramTest {
   }
   static void chooseAddress(int list, int station) {
     choose(frmHard->picSA(2 * list), frmHard->cmbSA(list), station - 1);
-  }
-
-  /// The text of the yellow pop-up, which then is clicked away; empty when there is none.
-  static std::string refusal() {
-    if (!frmMessage.visible()) return {};
-    const std::string text = frmMessage->lblMessage.Caption;
-    frmMessage->hide();
-    return text;
   }
 
   /// The one box since the last call, empty when there was none.
@@ -69,11 +53,6 @@ class PanelTest : public ProgramTest {
   std::vector<Asked> asked;
   bool agree = true;
 };
-
-/// How a picture prints: list and number.
-inline std::string shown(const Picture& picture) {
-  return picture.list == nullptr ? "none" : picture.list->name() + " " + std::to_string(picture.image);
-}
 
 inline constexpr const char* kWarning = "   警 告";
 

@@ -4,25 +4,11 @@
 #include <utility>
 #include <vector>
 
-#include "support/program.h"
+#include "support/logFixture.h"
 #include "ui/gesture.h"
 
 namespace zelvs {
 namespace {
-
-using Lines = std::vector<std::string>;
-Lines theFocusLog;
-
-Lines takeLog() {
-  return std::exchange(theFocusLog, {});
-}
-
-template <class T>
-void record(T& control) {
-  const std::string name = control.name();
-  control.onGotFocus = [name] { theFocusLog.push_back(name + " got"); };
-  control.onLostFocus = [name] { theFocusLog.push_back(name + " lost"); };
-}
 
 class FrmFields final : public Form {
  public:
@@ -30,8 +16,8 @@ class FrmFields final : public Form {
   FrmFields() : Form("frmFields", kKind, Border::Fixed) {
     txtInner.placeIn(fraGroup);
     for (TextBox* text : {&txtFirst, &txtSecond, &txtInner})
-      record(*text);
-    record(lblText);
+      noteFocus(*text);
+    noteFocus(lblText);
   }
 
   TextBox txtFirst{this, "txtFirst"};
@@ -52,8 +38,8 @@ class FrmFields final : public Form {
   Sound mmcSound{this, "mmcSound"};
 
  protected:
-  void activated() override { theFocusLog.emplace_back("frmFields activated"); }
-  void deactivated() override { theFocusLog.emplace_back("frmFields deactivated"); }
+  void activated() override { note("frmFields activated"); }
+  void deactivated() override { note("frmFields deactivated"); }
 };
 FormRef<FrmFields> frmFields{"frmFields"};
 
@@ -64,21 +50,21 @@ class FrmOther final : public Form {
 };
 FormRef<FrmOther> frmOther{"frmOther"};
 
-class FocusTest : public ProgramTest {
+class FocusTest : public NotingTest {
  protected:
   FocusTest() {
     frmFields->show();
-    takeLog();
+    takeNotes();
   }
 };
 
 TEST_F(FocusTest, TheOldControlLosesTheFocusBeforeTheNewOneGetsIt) {
   gesture::focus(frmFields->txtFirst);
   gesture::focus(frmFields->txtSecond);
-  EXPECT_EQ(takeLog(), (Lines{"txtFirst got", "txtFirst lost", "txtSecond got"}));
+  EXPECT_EQ(takeNotes(), (Lines{"txtFirst got", "txtFirst lost", "txtSecond got"}));
   EXPECT_EQ(desk().focused(), &frmFields->txtSecond);
   gesture::focus(frmFields->txtSecond);
-  EXPECT_EQ(takeLog(), Lines{}) << "it has the focus already";
+  EXPECT_EQ(takeNotes(), Lines{}) << "it has the focus already";
 }
 
 TEST_F(FocusTest, OnlySomeKindsTakeTheFocus) {
@@ -107,9 +93,9 @@ TEST_F(FocusTest, AClickOnALabelLeavesTheFocusWhereItIs) {
 TEST_F(FocusTest, AControlThatIsHiddenOrDisabledLosesTheFocus) {
   for (Property<bool> Control::*property : {&Control::Visible, &Control::Enabled}) {
     gesture::focus(frmFields->txtFirst);
-    takeLog();
+    takeNotes();
     frmFields->txtFirst.*property = false;
-    EXPECT_EQ(takeLog(), Lines{"txtFirst lost"});
+    EXPECT_EQ(takeNotes(), Lines{"txtFirst lost"});
     EXPECT_EQ(desk().focused(), nullptr);
     EXPECT_EQ(frmFields->activeControl(), nullptr);
     frmFields->txtFirst.*property = true;
@@ -120,9 +106,9 @@ TEST_F(FocusTest, AControlThatIsHiddenOrDisabledLosesTheFocus) {
 TEST_F(FocusTest, AControlInsideAHiddenOrDisabledGroupLosesTheFocus) {
   for (Property<bool> Control::*property : {&Control::Visible, &Control::Enabled}) {
     gesture::focus(frmFields->txtInner);
-    takeLog();
+    takeNotes();
     frmFields->fraGroup.*property = false;
-    EXPECT_EQ(takeLog(), Lines{"txtInner lost"});
+    EXPECT_EQ(takeNotes(), Lines{"txtInner lost"});
     const std::string why = property == &Control::Visible ? "visible" : "enabled";
     EXPECT_EQ(gesture::focus(frmFields->txtInner), "frmFields.txtInner is not " + why);
     frmFields->fraGroup.*property = true;
@@ -131,45 +117,45 @@ TEST_F(FocusTest, AControlInsideAHiddenOrDisabledGroupLosesTheFocus) {
 
 TEST_F(FocusTest, HidingAnotherControlLeavesTheFocus) {
   gesture::focus(frmFields->txtFirst);
-  takeLog();
+  takeNotes();
   frmFields->txtSecond.Visible = false;
   frmFields->fraGroup.Enabled = false;
-  EXPECT_EQ(takeLog(), Lines{});
+  EXPECT_EQ(takeNotes(), Lines{});
 }
 
 TEST_F(FocusTest, AFormThatComesBackGivesTheFocusToTheControlThatHadIt) {
   gesture::focus(frmFields->txtSecond);
-  takeLog();
+  takeNotes();
   frmOther->show();
-  EXPECT_EQ(takeLog(), (Lines{"txtSecond lost", "frmFields deactivated"}));
+  EXPECT_EQ(takeNotes(), (Lines{"txtSecond lost", "frmFields deactivated"}));
   EXPECT_EQ(desk().focused(), nullptr);
   gesture::activate(*frmFields);
-  EXPECT_EQ(takeLog(), (Lines{"frmFields activated", "txtSecond got"}));
+  EXPECT_EQ(takeNotes(), (Lines{"frmFields activated", "txtSecond got"}));
 }
 
 TEST_F(FocusTest, AFormThatComesBackGivesNoFocusToAControlThatWasHiddenMeanwhile) {
   gesture::focus(frmFields->txtSecond);
   frmOther->show();
   frmFields->txtSecond.Visible = false;
-  takeLog();
+  takeNotes();
   gesture::activate(*frmFields);
-  EXPECT_EQ(takeLog(), Lines{"frmFields activated"});
+  EXPECT_EQ(takeNotes(), Lines{"frmFields activated"});
   EXPECT_EQ(desk().focused(), nullptr);
 }
 
 TEST_F(FocusTest, HidingTheFormTakesTheFocus) {
   gesture::focus(frmFields->txtFirst);
-  takeLog();
+  takeNotes();
   frmFields->hide();
-  EXPECT_EQ(takeLog(), (Lines{"txtFirst lost", "frmFields deactivated"}));
+  EXPECT_EQ(takeNotes(), (Lines{"txtFirst lost", "frmFields deactivated"}));
 }
 
 TEST_F(FocusTest, AGestureOnAnotherFormActivatesItBeforeTheControlLearnsOfIt) {
   frmOther->show();
-  takeLog();
-  frmFields->cmdPush.onMouseDown = [] { theFocusLog.emplace_back("cmdPush down"); };
+  takeNotes();
+  frmFields->cmdPush.onMouseDown = [] { note("cmdPush down"); };
   gesture::press(*frmFields, &frmFields->cmdPush);
-  EXPECT_EQ(takeLog(), (Lines{"frmFields activated", "cmdPush down"}));
+  EXPECT_EQ(takeNotes(), (Lines{"frmFields activated", "cmdPush down"}));
 }
 
 TEST_F(FocusTest, AHandlerThatPassesTheFocusOnHasItsWay) {
@@ -184,6 +170,56 @@ TEST_F(FocusTest, AHandlerThatHidesTheNextControlLeavesNobodyWithTheFocus) {
   frmFields->txtFirst.onLostFocus = [] { frmFields->txtSecond.Visible = false; };
   gesture::focus(frmFields->txtSecond);
   EXPECT_EQ(desk().focused(), nullptr);
+}
+
+TEST_F(FocusTest, AControlIsLeftOnceWhateverItsHandlerShowsMeanwhile) {
+  gesture::focus(frmFields->txtFirst);
+  takeNotes();
+  int left = 0;
+  frmFields->txtFirst.onLostFocus = [&left] {
+    ++left;
+    frmOther->show(ShowMode::Modal);
+    EXPECT_EQ(desk().active(), frmFields.form());
+    EXPECT_EQ(desk().focused(), nullptr) << "its window is back, the control that is being left is not";
+  };
+  platform.onModal = [](Form& form) { form.hide(); };
+  gesture::focus(frmFields->txtSecond);
+  EXPECT_EQ(left, 1);
+  EXPECT_EQ(desk().focused(), &frmFields->txtSecond);
+  EXPECT_EQ(takeNotes(), (Lines{"frmFields deactivated", "frmFields activated", "txtSecond got"}));
+}
+
+TEST_F(FocusTest, AControlThatIsBeingLeftDoesNotTakeItselfBack) {
+  gesture::focus(frmFields->txtFirst);
+  frmFields->txtFirst.onLostFocus = [] { desk().focus(&frmFields->txtFirst); };
+  gesture::focus(frmFields->txtSecond);
+  EXPECT_EQ(desk().focused(), &frmFields->txtSecond);
+  gesture::focus(frmFields->txtFirst);
+  EXPECT_EQ(desk().focused(), &frmFields->txtFirst) << "left, it takes the focus like any other";
+}
+
+TEST_F(FocusTest, OfNestedLeavingsEachHoldsItsOwn) {
+  gesture::focus(frmFields->txtFirst);
+  // The first one passes the focus on; the next gives it back to the first, which is still being left.
+  frmFields->txtFirst.onLostFocus = [] {
+    note("first left");
+    desk().focus(&frmFields->txtInner);
+    desk().focus(&frmFields->cmdPush);
+    note("first done");
+  };
+  frmFields->txtInner.onLostFocus = [] {
+    note("inner left");
+    desk().focus(&frmFields->txtFirst);
+    EXPECT_EQ(desk().focused(), nullptr);
+    desk().focus(&frmFields->txtInner);
+    EXPECT_EQ(desk().focused(), nullptr);
+  };
+  takeNotes();
+  gesture::focus(frmFields->txtSecond);
+  EXPECT_EQ(takeNotes(), (Lines{"first left", "txtInner got", "inner left", "first done"}));
+  EXPECT_EQ(desk().focused(), &frmFields->cmdPush);
+  gesture::focus(frmFields->txtFirst);
+  EXPECT_EQ(desk().focused(), &frmFields->txtFirst) << "all of them are over";
 }
 
 TEST_F(FocusTest, WhatHasNoFaceTakesNoGesture) {

@@ -4,37 +4,31 @@
 #include <vector>
 
 #include "shell/frmMDI.h"
-#include "support/program.h"
+#include "support/logFixture.h"
 #include "ui/gesture.h"
 
 namespace zelvs {
 namespace {
 
-using Lines = std::vector<std::string>;
-Lines theLog;
 bool theUnloadIsRefused = false;
-
-Lines takeLog() {
-  return std::exchange(theLog, {});
-}
 
 class RecordingForm : public Form {
  public:
   using Form::Form;
 
  protected:
-  void load() override { note("load"); }
-  void activated() override { note("activated"); }
-  void deactivated() override { note("deactivated"); }
-  void resized() override { note("resized"); }
+  void load() override { tell("load"); }
+  void activated() override { tell("activated"); }
+  void deactivated() override { tell("deactivated"); }
+  void resized() override { tell("resized"); }
   bool queryUnload(bool byUser) override {
-    note(byUser ? "asked by the user" : "asked by the program");
+    tell(byUser ? "asked by the user" : "asked by the program");
     return !theUnloadIsRefused;
   }
-  void unloading() override { note("unloading"); }
+  void unloading() override { tell("unloading"); }
 
  private:
-  void note(const std::string& what) { theLog.push_back(name() + " " + what); }
+  void tell(const std::string& what) { note(name() + " " + what); }
 };
 
 class FrmFirst final : public RecordingForm {
@@ -60,12 +54,9 @@ class FrmInside final : public RecordingForm {
 };
 FormRef<FrmInside> frmInside{"frmInside"};
 
-class FormLifeTest : public ProgramTest {
+class FormLifeTest : public NotingTest {
  protected:
-  FormLifeTest() {
-    theLog.clear();
-    theUnloadIsRefused = false;
-  }
+  FormLifeTest() { theUnloadIsRefused = false; }
 };
 
 TEST_F(FormLifeTest, LoadsAtTheFirstTouchAndOnlyThen) {
@@ -76,66 +67,66 @@ TEST_F(FormLifeTest, LoadsAtTheFirstTouchAndOnlyThen) {
   EXPECT_FALSE(frmFirst.visible());
   frmFirst.load();
   frmFirst->Tag = "again";
-  EXPECT_EQ(takeLog(), Lines{"frmFirst load"});
+  EXPECT_EQ(takeNotes(), Lines{"frmFirst load"});
 }
 
 TEST_F(FormLifeTest, ShowingTurnsTheUserFromOneFormToTheOther) {
   frmFirst->show();
-  EXPECT_EQ(takeLog(), (Lines{"frmFirst load", "frmFirst activated"}));
+  EXPECT_EQ(takeNotes(), (Lines{"frmFirst load", "frmFirst activated"}));
   frmSecond->show();
-  EXPECT_EQ(takeLog(), (Lines{"frmSecond load", "frmFirst deactivated", "frmSecond activated"}));
+  EXPECT_EQ(takeNotes(), (Lines{"frmSecond load", "frmFirst deactivated", "frmSecond activated"}));
   EXPECT_EQ(desk().active(), frmSecond.form());
   EXPECT_TRUE(frmFirst.visible());
 }
 
 TEST_F(FormLifeTest, ShowingTheActiveFormAgainActivatesNothing) {
   frmFirst->show();
-  takeLog();
+  takeNotes();
   frmFirst->show();
-  EXPECT_EQ(takeLog(), Lines{});
+  EXPECT_EQ(takeNotes(), Lines{});
 }
 
 TEST_F(FormLifeTest, HidingTheActiveFormActivatesTheFrontOne) {
   frmFirst->show();
   frmSecond->show();
-  takeLog();
+  takeNotes();
   frmSecond->hide();
-  EXPECT_EQ(takeLog(), (Lines{"frmSecond deactivated", "frmFirst activated"}));
+  EXPECT_EQ(takeNotes(), (Lines{"frmSecond deactivated", "frmFirst activated"}));
   EXPECT_TRUE(frmSecond.loaded()) << "a hidden form stays";
   frmSecond->hide();
-  EXPECT_EQ(takeLog(), Lines{}) << "hiding twice is hiding once";
+  EXPECT_EQ(takeNotes(), Lines{}) << "hiding twice is hiding once";
 }
 
 TEST_F(FormLifeTest, HidingAFormBehindLeavesTheActiveOne) {
   frmFirst->show();
   frmSecond->show();
-  takeLog();
+  takeNotes();
   frmFirst->hide();
-  EXPECT_EQ(takeLog(), Lines{});
+  EXPECT_EQ(takeNotes(), Lines{});
   EXPECT_EQ(desk().active(), frmSecond.form());
 }
 
 TEST_F(FormLifeTest, UnloadingAsksThenUnloadsAndTheNextTouchMakesANewOne) {
   frmFirst->show();
   frmFirst->Tag = "old";
-  takeLog();
+  takeNotes();
   frmFirst->unload();
-  EXPECT_EQ(takeLog(), (Lines{"frmFirst asked by the program", "frmFirst unloading", "frmFirst deactivated"}));
+  EXPECT_EQ(takeNotes(), (Lines{"frmFirst asked by the program", "frmFirst unloading", "frmFirst deactivated"}));
   EXPECT_FALSE(frmFirst.loaded());
   EXPECT_FALSE(frmFirst.visible());
   EXPECT_TRUE(desk().forms().empty());
   EXPECT_TRUE(frmFirst->Tag == "");
-  EXPECT_EQ(takeLog(), Lines{"frmFirst load"});
+  EXPECT_EQ(takeNotes(), Lines{"frmFirst load"});
 }
 
 TEST_F(FormLifeTest, ARefusedUnloadLeavesTheFormAsItWas) {
   frmFirst->show();
-  takeLog();
+  takeNotes();
   theUnloadIsRefused = true;
   EXPECT_FALSE(frmFirst->close(false));
-  EXPECT_EQ(takeLog(), Lines{"frmFirst asked by the program"});
+  EXPECT_EQ(takeNotes(), Lines{"frmFirst asked by the program"});
   EXPECT_EQ(gesture::close(*frmFirst), "") << "the form's own refusal counts as taken";
-  EXPECT_EQ(takeLog(), Lines{"frmFirst asked by the user"});
+  EXPECT_EQ(takeNotes(), Lines{"frmFirst asked by the user"});
   EXPECT_TRUE(frmFirst.visible());
 }
 
@@ -191,12 +182,12 @@ TEST_F(FormLifeTest, ShowingAVisibleFormModallyEndsTheProgram) {
 
 TEST_F(FormLifeTest, AChangeOfSizeIsToldToTheForm) {
   frmFirst.load();
-  takeLog();
+  takeNotes();
   frmFirst->Width = 9000;
   frmFirst->Width = 9000;
   frmFirst->Height = 5000;
   frmFirst->Left = 90;
-  EXPECT_EQ(takeLog(), (Lines{"frmFirst resized", "frmFirst resized"}));
+  EXPECT_EQ(takeNotes(), (Lines{"frmFirst resized", "frmFirst resized"}));
 }
 
 TEST_F(FormLifeTest, TheCaptionBarCountsInTheHeight) {
@@ -217,12 +208,12 @@ TEST_F(FormLifeTest, TheEndDropsEveryFormWithoutAsking) {
   frmFirst->show();
   frmSecond->show();
   frmInside.load();
-  takeLog();
+  takeNotes();
   theUnloadIsRefused = true;
   desk().end();
   EXPECT_TRUE(desk().ended());
   EXPECT_TRUE(desk().forms().empty());
-  EXPECT_EQ(takeLog(),
+  EXPECT_EQ(takeNotes(),
             (Lines{"frmSecond unloading", "frmSecond deactivated", "frmFirst unloading", "frmInside unloading"}));
   for (const FormPlace* place : FormPlace::all())
     EXPECT_FALSE(place->loaded()) << place->name();

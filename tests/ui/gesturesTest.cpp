@@ -2,40 +2,21 @@
 
 #include <functional>
 #include <string>
-#include <utility>
 #include <vector>
 
-#include "support/program.h"
+#include "support/logFixture.h"
 #include "ui/gesture.h"
 
 namespace zelvs {
 namespace {
 
-using Lines = std::vector<std::string>;
-Lines theGestureLog;
-
-Lines takeLog() {
-  return std::exchange(theGestureLog, {});
-}
-
-void record(Control& control, bool doubleClick) {
-  const auto noting = [&control](const char* what) {
-    return [name = control.name(), what] { theGestureLog.push_back(name + " " + what); };
-  };
-  control.onMouseDown = noting("down");
-  control.onMouseUp = noting("up");
-  control.onMouseMove = noting("move");
-  control.onClick = noting("click");
-  if (doubleClick) control.onDblClick = noting("double");
-}
-
 class FrmHands final : public Form {
  public:
   static constexpr FormKind kKind = FormKind::Window;
   FrmHands() : Form("frmHands", kKind, Border::Fixed) {
-    record(picOnce, false);
-    record(picTwice, true);
-    record(cmdPush, false);
+    noteMouse(picOnce);
+    noteMouse(picTwice, true);
+    noteMouse(cmdPush);
   }
   PictureBox picOnce{this, "picOnce"};
   PictureBox picTwice{this, "picTwice"};
@@ -45,16 +26,13 @@ class FrmHands final : public Form {
   TextBox txtField{this, "txtField"};
   ListBox lstRows{this, "lstRows"};
 
-  void click() override { theGestureLog.emplace_back("frmHands click"); }
+  void click() override { note("frmHands click"); }
 };
 FormRef<FrmHands> frmHands{"frmHands"};
 
-class GestureTest : public ProgramTest {
+class GestureTest : public NotingTest {
  protected:
-  GestureTest() {
-    theGestureLog.clear();
-    frmHands->show();
-  }
+  GestureTest() { frmHands->show(); }
   FrmHands& form() { return *frmHands; }
 };
 
@@ -101,7 +79,7 @@ TEST_F(GestureTest, EachGestureReachesTheControlWithItsEvents) {
       for (const std::string& event : twice ? row.twice : row.once)
         wanted.push_back(control.name() + " " + event);
       EXPECT_EQ(row.make(form(), &control), "");
-      EXPECT_EQ(takeLog(), wanted);
+      EXPECT_EQ(takeNotes(), wanted);
       gesture::release(form(), &form().picDeaf);  // the button is up again
     }
   }
@@ -110,30 +88,30 @@ TEST_F(GestureTest, EachGestureReachesTheControlWithItsEvents) {
 TEST_F(GestureTest, AReleaseClicksOnlyTheControlThatWasPressed) {
   gesture::press(form(), &form().picOnce);
   gesture::release(form(), &form().picTwice);
-  EXPECT_EQ(takeLog(), (Lines{"picOnce down", "picTwice up"}));
+  EXPECT_EQ(takeNotes(), (Lines{"picOnce down", "picTwice up"}));
   gesture::release(form(), &form().picOnce);
-  EXPECT_EQ(takeLog(), Lines{"picOnce up"}) << "the press is over";
+  EXPECT_EQ(takeNotes(), Lines{"picOnce up"}) << "the press is over";
 }
 
 TEST_F(GestureTest, TheReleaseAfterADoublePressIsNoClick) {
   gesture::doubleClick(form(), &form().picTwice, false);
-  takeLog();
+  takeNotes();
   gesture::release(form(), &form().picTwice);
-  EXPECT_EQ(takeLog(), Lines{"picTwice up"});
+  EXPECT_EQ(takeNotes(), Lines{"picTwice up"});
 }
 
 TEST_F(GestureTest, TheReleaseAfterADoublePressWithoutDoubleClickActionIsAClick) {
   gesture::doubleClick(form(), &form().picOnce, false);
-  takeLog();
+  takeNotes();
   gesture::release(form(), &form().picOnce);
-  EXPECT_EQ(takeLog(), (Lines{"picOnce up", "picOnce click"}));
+  EXPECT_EQ(takeNotes(), (Lines{"picOnce up", "picOnce click"}));
 }
 
 TEST_F(GestureTest, BesideTheControlsTheFormItselfIsClicked) {
   EXPECT_EQ(gesture::click(form(), nullptr), "");
-  EXPECT_EQ(takeLog(), Lines{"frmHands click"});
+  EXPECT_EQ(takeNotes(), Lines{"frmHands click"});
   EXPECT_EQ(gesture::doubleClick(form(), nullptr), "");
-  EXPECT_EQ(takeLog(), (Lines{"frmHands click", "frmHands click"}));
+  EXPECT_EQ(takeNotes(), (Lines{"frmHands click", "frmHands click"}));
 }
 
 TEST_F(GestureTest, AHiddenOrDisabledControlRefusesEveryGesture) {
@@ -156,69 +134,69 @@ TEST_F(GestureTest, AHiddenOrDisabledControlRefusesEveryGesture) {
     EXPECT_EQ(make(form(), &form().picTwice), "frmHands.picTwice is not enabled");
     form().picTwice.Enabled = true;
   }
-  EXPECT_EQ(takeLog(), Lines{});
+  EXPECT_EQ(takeNotes(), Lines{});
   EXPECT_EQ(desk().focused(), nullptr);
 }
 
 TEST_F(GestureTest, APressThatHidesItsControlEndsTheGesture) {
   form().picOnce.onMouseDown = [] {
-    theGestureLog.emplace_back("down and away");
+    note("down and away");
     frmHands->picOnce.Visible = false;
   };
   EXPECT_EQ(gesture::click(form(), &form().picOnce), "");
-  EXPECT_EQ(takeLog(), Lines{"down and away"});
+  EXPECT_EQ(takeNotes(), Lines{"down and away"});
   // The button went up somewhere else: a later release starts from nothing.
   form().picOnce.Visible = true;
   gesture::release(form(), &form().picOnce);
-  EXPECT_EQ(takeLog(), Lines{"picOnce up"});
+  EXPECT_EQ(takeNotes(), Lines{"picOnce up"});
 }
 
 TEST_F(GestureTest, AClickThatHidesItsControlEndsADoubleClick) {
   form().picTwice.onClick = [] {
-    theGestureLog.emplace_back("click and away");
+    note("click and away");
     frmHands->picTwice.Visible = false;
   };
   EXPECT_EQ(gesture::doubleClick(form(), &form().picTwice), "");
-  EXPECT_EQ(takeLog(), (Lines{"picTwice down", "picTwice up", "click and away"}));
+  EXPECT_EQ(takeNotes(), (Lines{"picTwice down", "picTwice up", "click and away"}));
 }
 
 TEST_F(GestureTest, AClickThatUnloadsItsFormEndsADoubleClick) {
   form().picTwice.onClick = [] { frmHands->unload(); };
   EXPECT_EQ(gesture::doubleClick(form(), &form().picTwice), "");
-  EXPECT_EQ(takeLog(), (Lines{"picTwice down", "picTwice up"}));
+  EXPECT_EQ(takeNotes(), (Lines{"picTwice down", "picTwice up"}));
   EXPECT_FALSE(frmHands.loaded());
 }
 
 TEST_F(GestureTest, EnterAndSpacePushAButton) {
   for (const int code : {key::kEnter, key::kSpace}) {
     EXPECT_EQ(gesture::keyDown(form().cmdPush, code), "");
-    EXPECT_EQ(takeLog(), Lines{"cmdPush click"}) << code;
+    EXPECT_EQ(takeNotes(), Lines{"cmdPush click"}) << code;
   }
   gesture::keyDown(form().cmdPush, 'A');
-  EXPECT_EQ(takeLog(), Lines{});
+  EXPECT_EQ(takeNotes(), Lines{});
 }
 
 TEST_F(GestureTest, EnterInAFieldPushesTheDefaultButton) {
   gesture::keyDown(form().txtField, key::kEnter);
-  EXPECT_EQ(takeLog(), Lines{}) << "no button is the default one";
+  EXPECT_EQ(takeNotes(), Lines{}) << "no button is the default one";
   form().cmdPush.Default = true;
   gesture::keyDown(form().txtField, key::kEnter);
-  EXPECT_EQ(takeLog(), Lines{"cmdPush click"});
+  EXPECT_EQ(takeNotes(), Lines{"cmdPush click"});
   form().cmdPush.Enabled = false;
   gesture::keyDown(form().txtField, key::kEnter);
   form().cmdPush.Enabled = true;
   form().cmdPush.Visible = false;
   gesture::keyDown(form().txtField, key::kEnter);
-  EXPECT_EQ(takeLog(), Lines{});
+  EXPECT_EQ(takeNotes(), Lines{});
 }
 
 TEST_F(GestureTest, AKeyThatTheHandlerSwallowsDoesNothingMore) {
   form().cmdPush.onKeyDown = [](int& code) { code = 0; };
   gesture::keyDown(form().cmdPush, key::kEnter);
-  EXPECT_EQ(takeLog(), Lines{});
+  EXPECT_EQ(takeNotes(), Lines{});
   form().cmdPush.onKeyDown = [](int& code) { code = key::kSpace; };
   gesture::keyDown(form().cmdPush, 'A');
-  EXPECT_EQ(takeLog(), Lines{"cmdPush click"}) << "a handler may put another key in its place";
+  EXPECT_EQ(takeNotes(), Lines{"cmdPush click"}) << "a handler may put another key in its place";
 }
 
 TEST_F(GestureTest, SpaceTogglesACheckBox) {

@@ -3,8 +3,8 @@
 #include <string>
 
 #include "support/program.h"
+#include "support/userFixture.h"
 #include "text/utf8.h"
-#include "ui/gesture.h"
 #include "ui/hexField.h"
 
 namespace zelvs {
@@ -35,10 +35,7 @@ class HexFieldTest : public ProgramTest {
     gesture::focus(frmField->cmdOther);
     gesture::focus(field());
   }
-  void type(const std::string& text) {
-    for (const char32_t character : charactersOf(text))
-      EXPECT_EQ(gesture::type(field(), character), "");
-  }
+  void type(const std::string& text) { zelvs::type(field(), text); }
   void key(int code) { EXPECT_EQ(gesture::keyDown(field(), code), ""); }
   /// "0[0]00" with the second digit selected.
   std::string look() {

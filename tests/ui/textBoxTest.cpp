@@ -4,8 +4,8 @@
 #include <vector>
 
 #include "support/program.h"
+#include "support/userFixture.h"
 #include "text/utf8.h"
-#include "ui/gesture.h"
 
 namespace zelvs {
 namespace {
@@ -31,10 +31,7 @@ class TextBoxTest : public ProgramTest {
     gesture::placeCaret(field(), start, length);
     changes = 0;
   }
-  void type(const std::string& text) {
-    for (const char32_t character : charactersOf(text))
-      EXPECT_EQ(gesture::type(field(), character), "");
-  }
+  void type(const std::string& text) { zelvs::type(field(), text); }
   /// "ab|c" with the caret at 2, "a[b]c" with b selected.
   std::string look() {
     std::u32string text = charactersOf(field().Text.get());
