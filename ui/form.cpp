@@ -88,11 +88,11 @@ Area childrenArea() {
 Area Form::clientArea() const {
   Area area{insideLeft(), clientAreaTop(), clientWidth(), std::max(clientHeight() - barHeight(), 0.0)};
   const Area children = childrenArea();
-  const auto tooWide = [&] { return children.width > area.width; };
-  const auto tooHigh = [&] { return children.height > area.height; };
+  const auto tooWide = [&](double room) { return children.left < 0 || children.right() > room; };
+  const auto tooHigh = [&](double room) { return children.top < 0 || children.bottom() > room; };
   // Each bar may be what the other one is needed for.
-  const bool below = tooWide() || (tooHigh() && children.width > area.width - kScrollBar);
-  const bool beside = tooHigh() || (below && children.height > area.height - kScrollBar);
+  const bool below = tooWide(area.width) || (tooHigh(area.height) && tooWide(area.width - kScrollBar));
+  const bool beside = tooHigh(area.height) || (below && tooHigh(area.height - kScrollBar));
   area.height -= below ? kScrollBar : 0;
   area.width -= beside ? kScrollBar : 0;
   return area;

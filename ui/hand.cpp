@@ -112,7 +112,7 @@ bool Hand::downOnField(Control& field, int row, bool second, bool named) {
   const Desk::Event event;
   if (!begin({&field.form(), &field}, second, named)) return false;
   part_ = Part::Nothing;  // the field itself ends it
-  const bool besideRows = !named && rowCountOf(field) > 0 && row < 0;
+  const bool besideRows = !named && holdsRows(field) && row < 0;
   if (!second || besideRows || !gesture::actsOnDoubleClick(&field)) return true;
   held_ = {};
   gesture::pressedAgain(field.form(), &field);

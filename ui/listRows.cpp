@@ -39,16 +39,15 @@ int rowByLetter(const ListControl& list, int row, char32_t character) {
 
 }  // namespace
 
+bool holdsRows(const Control& control) {
+  return control.kind() == ControlKind::TabStrip || control.kind() == ControlKind::ComboBox ||
+         control.kind() == ControlKind::ListBox;
+}
+
 int rowCountOf(const Control& control) {
-  switch (control.kind()) {
-    case ControlKind::TabStrip:
-      return static_cast<const TabStrip&>(control).Tabs;
-    case ControlKind::ComboBox:
-    case ControlKind::ListBox:
-      return listOf(control).ListCount();
-    default:
-      return 0;
-  }
+  if (!holdsRows(control)) return 0;
+  return control.kind() == ControlKind::TabStrip ? static_cast<const TabStrip&>(control).Tabs.get()
+                                                 : listOf(control).ListCount();
 }
 
 int selectedRowOf(const Control& control) {

@@ -6,6 +6,8 @@ namespace zelvs {
 
 // What lists and tabs have in common, and how their rows stand: all as high as each other, from the list's top on.
 
+/// A list or a strip of tabs, be it empty.
+bool holdsRows(const Control& control);
 /// Rows of a list or tabs of a strip; 0 for any other control.
 int rowCountOf(const Control& control);
 /// The selected row or tab, -1 for none.

@@ -19,13 +19,12 @@ constexpr double kCloseBox = 14 * kPixel;
 constexpr double kCloseMargin = (kCaptionHeight - kCloseBox) / 2;
 constexpr double kTitlePoints = 9;
 
-/// Children show only as far as the frame's client area, floating ones as far as the frame's inside.
+/// Children show only in the frame's client area, floating ones in all of the frame's inside.
 bool clippedAway(const Form& form, double x, double y) {
   const Form* frame = form.kind() == FormKind::Child ? desk().frame() : nullptr;
   if (frame == nullptr) return false;
-  const double top = form.floating() ? frame->insideTop() : frame->clientAreaTop();
-  const Area shown{frame->insideLeft(), top, frame->clientWidth(), frame->insideTop() + frame->clientHeight() - top};
-  return !shown.contains(x, y);
+  const Area inside{frame->insideLeft(), frame->insideTop(), frame->clientWidth(), frame->clientHeight()};
+  return !(form.floating() ? inside : frame->clientArea()).contains(x, y);
 }
 
 }  // namespace

@@ -403,6 +403,11 @@ TEST_F(HandTest, AFieldsSecondPressIsItsOwnUnlessItActsOnDoubleClicks) {
 }
 
 TEST_F(HandTest, BesideItsRowsAListHasNoDoubleClickUnlessItIsNamed) {
+  EXPECT_TRUE(hand.downOnField(form().lstRows, -1, false));
+  hand.upFromField();
+  EXPECT_TRUE(hand.downOnField(form().lstRows, -1, true)) << "it has no row at all";
+  hand.upFromField();
+  EXPECT_EQ(takeNotes(), Lines{});
   form().lstRows.addItem("row");
   EXPECT_TRUE(hand.downOnField(form().lstRows, -1, false));
   hand.upFromField();

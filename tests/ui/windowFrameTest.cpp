@@ -239,6 +239,12 @@ TEST_F(WindowFrameTest, AChildShowsOnlyInTheClientAreaAFloatingOneAlsoOverTheToo
   frmMDI->scrollTo(0, 0);
   EXPECT_EQ(windowAt(1000, clientTop).form, frmChild.form());
   EXPECT_EQ(windowAt(999, clientTop).form, nullptr);
+  frmChild->move(12000 - frmChild->Width + 15, 0);
+  const double areaBottom = frmMDI->insideTop() + frmMDI->clientHeight();
+  frmChild->Height = 9000;
+  EXPECT_EQ(windowAt(12000 - kScrollBar, areaBottom - kScrollBar - 1).form, frmChild.form());
+  EXPECT_EQ(windowAt(12000 - kScrollBar, areaBottom - kScrollBar).form, frmMDI.form()) << "a scroll bar lies there";
+  EXPECT_EQ(windowAt(1000 + 12000 - kScrollBar, clientTop).form, frmMDI.form()) << "and there";
 
   frmFloat->show();
   frmFloat->setFloating(true);

@@ -71,6 +71,10 @@ TEST_F(WindowPlaceTest, WhatDoesNotFitInBringsABar) {
   frmTwig->show();
   EXPECT_EQ(frmMDI->clientArea(), (Area{1000, clientTop(), 12000 - kScrollBar, 9000 - kScrollBar}))
       << "from -15 to 12000 is too wide, and its bar is in the way below";
+  frmTwig->hide();
+  leaf().move(-15, 0);
+  EXPECT_EQ(frmMDI->clientArea(), (Area{1000, clientTop(), 12000, 9000 - kScrollBar})) << "what hangs out at the left";
+  EXPECT_EQ(frmMDI->scrollRange(), (Area{-15, 0, 12000 + 15, 9000 - kScrollBar}));
 }
 
 TEST_F(WindowPlaceTest, OneBarMayBeWhatTheOtherIsNeededFor) {

@@ -264,6 +264,16 @@ class WindowedHands final : public Hands {
     return {};
   }
 
+  /// The frame's caption bar is the desktop's and no part of its window: one like the other windows' stands for it.
+  void drawCaptionOfFrame(QPainter& painter) const {
+    const Form* active = desk().active();
+    const QPointF place = windows_.frame()->geometry().topLeft() - QPointF(0, kCaptionHeight / kTwipsPerPixel);
+    QtPainter through(painter);
+    painter.translate(place);
+    drawCaption(through, *desk().frame(), active != nullptr && active->kind() != FormKind::Window);
+    painter.translate(-place);
+  }
+
   QPixmap wholeScreen() const {
     const Screen screen = screenOfQt();
     const qreal ratio = windows_.frame()->devicePixelRatioF();
@@ -271,6 +281,7 @@ class WindowedHands final : public Hands {
     picture.setDevicePixelRatio(ratio);
     picture.fill(colourOf(0x604020));
     QPainter painter(&picture);
+    drawCaptionOfFrame(painter);
     const std::vector<Form*>& order = desk().forms();
     for (auto at = order.rbegin(); at != order.rend(); ++at) {
       if ((*at)->kind() == FormKind::Child || !(*at)->visible()) continue;
