@@ -15,7 +15,7 @@ constexpr Colour kWarningRed = 0x2020C0;
 void cmdStart_Click() {
   const NaviRecord lesson = naviIndex[static_cast<std::size_t>(frmNaviList->lstTitle.ListIndex)];
   if (lesson.exists == kFalse) {
-    platform().messageBox("確認", "ファイルが見つかりません。", MessageIcon::Information, MessageButtons::Ok);
+    messageBox("確認", "ファイルが見つかりません。", MessageIcon::Information, MessageButtons::Ok);
     return;
   }
   frmNaviList->hide();

@@ -171,8 +171,8 @@ void FrmMDI::lblRunMode_Click(int index) {
 
 bool FrmMDI::queryUnload(bool /*byUser*/) {
   if (restarting()) return false;
-  const bool confirmed = platform().messageBox("ZELVS終了確認", "アプリケーションを終了します。よろしいですか？",
-                                               MessageIcon::Question, MessageButtons::OkCancel);
+  const bool confirmed = messageBox("ZELVS終了確認", "アプリケーションを終了します。よろしいですか？",
+                                    MessageIcon::Question, MessageButtons::OkCancel);
   if (confirmed) desk().end();
   return confirmed;
 }

@@ -4,6 +4,7 @@
 #include <utility>
 
 #include "ui/controls.h"
+#include "ui/gesture.h"
 #include "ui/platform.h"
 #include "ui/runTimeError.h"
 #include "ui/view.h"
@@ -145,8 +146,11 @@ void Desk::activate(Form& form) {
   raise(form);
   if (active_ == &form) return;
   const Event event;
-  focus(nullptr);
-  if (!form.visible_ || active_ == &form) return;  // a handler of the lost focus had its own ideas
+  // A handler of the lost focus may turn the user to yet another window, which then has the focus.
+  do {
+    focus(nullptr);
+    if (!form.visible_ || active_ == &form) return;
+  } while (focused_ != nullptr);
   if (active_ != nullptr) {
     Form& before = *active_;
     active_ = nullptr;
@@ -165,7 +169,13 @@ void Desk::activate(Form& form) {
 void Desk::focus(Control* control) {
   if (focused_ == control) return;
   const Event event;
+  if (control != nullptr && active_ != &control->form() && gesture::refusal(control->form(), control).empty()) {
+    // A handler may go on behind another window that has come up meanwhile.
+    activate(control->form());
+    if (focused_ == control) return;
+  }
   Control* before = focused_;
+  const Form* active = active_;
   focused_ = nullptr;
   if (before != nullptr) {
     before->markChanged();
@@ -176,8 +186,10 @@ void Desk::focus(Control* control) {
       leaving_.pop_back();
     }
   }
-  // The handler may have given the focus away itself, or hidden the control that was to have it.
+  // The handler may have given the focus away itself, turned the user to another window, or hidden the control that was
+  // to have it.
   if (control == nullptr || focused_ != nullptr || leaving(*control)) return;
+  if (active_ != active && active_ != &control->form()) return;
   if (!control->shown() || !control->usable()) return;
   focused_ = control;
   control->form().activeControl_ = control;

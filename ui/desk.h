@@ -25,8 +25,9 @@ class Desk {
 
   /// Activates the form and brings it to the front; one that is hidden stays as it is.
   void activate(Form& form);
-  /// Gives the control the focus, or takes it from whoever has it. While a control's handler of the lost focus runs,
-  /// the control does not get it back: it is left once, whatever its handler shows meanwhile.
+  /// Gives the control the focus and turns the user to its form, or takes the focus from whoever has it. While a
+  /// control's handler of the lost focus runs, the control does not get it back: it is left once, whatever its handler
+  /// shows meanwhile.
   void focus(Control* control);
   /// The control, or what holds it, has been hidden or disabled: a focus inside is lost.
   void focusHidden(const Control& control);

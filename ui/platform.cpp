@@ -1,5 +1,6 @@
 #include "ui/platform.h"
 
+#include "ui/desk.h"
 #include "ui/view.h"
 
 namespace zelvs {
@@ -18,6 +19,11 @@ Platform& platform() {
 
 void setPlatform(Platform* platform) {
   thePlatform = platform;
+}
+
+bool messageBox(const std::string& title, const std::string& text, MessageIcon icon, MessageButtons buttons) {
+  desk().hand.lose();
+  return platform().messageBox(title, text, icon, buttons);
 }
 
 View& view() {

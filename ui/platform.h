@@ -55,6 +55,9 @@ Platform& platform();
 /// The platform must outlive its use; null takes it away.
 void setPlatform(Platform* platform);
 
+/// The platform's message box. It takes the mouse, so that a press that is held is over.
+bool messageBox(const std::string& title, const std::string& text, MessageIcon icon, MessageButtons buttons);
+
 /// Lets pending events run; a timer's handler may run inside.
 inline void yieldToEvents() {
   platform().yield();

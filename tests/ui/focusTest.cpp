@@ -47,8 +47,17 @@ class FrmOther final : public Form {
  public:
   static constexpr FormKind kKind = FormKind::Window;
   FrmOther() : Form("frmOther", kKind, Border::Fixed) {}
+
+  TextBox txtOther{this, "txtOther"};
 };
 FormRef<FrmOther> frmOther{"frmOther"};
+
+class FrmThird final : public Form {
+ public:
+  static constexpr FormKind kKind = FormKind::Window;
+  FrmThird() : Form("frmThird", kKind, Border::Fixed) {}
+};
+FormRef<FrmThird> frmThird{"frmThird"};
 
 class FocusTest : public NotingTest {
  protected:
@@ -220,6 +229,34 @@ TEST_F(FocusTest, OfNestedLeavingsEachHoldsItsOwn) {
   EXPECT_EQ(desk().focused(), &frmFields->cmdPush);
   gesture::focus(frmFields->txtFirst);
   EXPECT_EQ(desk().focused(), &frmFields->txtFirst) << "all of them are over";
+}
+
+TEST_F(FocusTest, AHandlerThatTurnsTheUserToAnotherWindowKeepsTheFocusInside) {
+  frmOther->show();
+  gesture::focus(frmFields->txtFirst);
+  frmFields->txtFirst.onLostFocus = [] { desk().activate(*frmOther); };
+  gesture::focus(frmFields->txtSecond);
+  EXPECT_EQ(desk().active(), frmOther.get());
+  EXPECT_EQ(desk().focused(), nullptr);
+}
+
+TEST_F(FocusTest, TheWindowThatTheUserTurnsToIsLeftNoFocusElsewhere) {
+  frmThird->show();
+  frmOther->show();
+  gesture::focus(frmOther->txtOther);
+  gesture::focus(frmFields->txtFirst);
+  frmFields->txtFirst.onLostFocus = [] { desk().activate(*frmOther); };
+  gesture::activate(*frmThird);
+  EXPECT_EQ(desk().active(), frmThird.get());
+  EXPECT_EQ(desk().focused(), nullptr);
+}
+
+TEST_F(FocusTest, AControlThatIsGivenTheFocusBringsItsWindowAlong) {
+  frmOther->show();
+  frmFields->show();
+  desk().focus(&frmOther->txtOther);
+  EXPECT_EQ(desk().active(), frmOther.get());
+  EXPECT_EQ(desk().focused(), &frmOther->txtOther);
 }
 
 TEST_F(FocusTest, WhatHasNoFaceTakesNoGesture) {

@@ -128,6 +128,7 @@ bool HeadlessHands::isSecondPress() {
 
 void HeadlessHands::handDown() {
   const bool second = isSecondPress();
+  held_ = {};  // a release that nobody has told of
   forgetGoneList();
   // A list that has dropped down closes at a press beside it, and the press goes on to what lies there.
   if (dropped_ != nullptr && rowAt(*dropped_, x(), y()) < 0 && !onScreen(*dropped_).contains(x(), y())) {
