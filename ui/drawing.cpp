@@ -86,7 +86,7 @@ void draw(Painter& painter, const Line& line, const Area& holder, double unit) {
 
 void draw(Painter& painter, const Shape& shape, const Area& place) {
   painter.fill(place, shape.ForeColor);
-  if (shape.BackColor != shape.ForeColor) painter.fill(place.shrunk(kTwipsPerPixel), shape.BackColor);
+  if (shape.BackColor != shape.ForeColor.get()) painter.fill(place.shrunk(kTwipsPerPixel), shape.BackColor);
 }
 
 void draw(Painter& painter, const Frame& frame, const Area& place) {
