@@ -17,6 +17,14 @@ void Label::propertyChanged(const void* property) {
   Height = lineCount(Caption.get()) * lineHeight(FontSize) / outerUnit();
 }
 
+Area Line::reach(const Area& holder) const {
+  const double unit = outerUnit();
+  const auto [left, right] = std::minmax<double>(X1, X2);
+  const auto [top, bottom] = std::minmax<double>(Y1, Y2);
+  const Area middle{holder.left + left * unit, holder.top + top * unit, (right - left) * unit, (bottom - top) * unit};
+  return middle.shrunk(-BorderWidth * kTwipsPerPixel);
+}
+
 void PictureBox::cls() {
   CurrentX = 0;
   CurrentY = 0;

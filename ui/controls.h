@@ -80,6 +80,9 @@ class Line : public Control {
   Property<double> X2{this};
   Property<double> Y2{this};
   Property<double> BorderWidth{this, 1};  ///< in pixels; the line is drawn in ForeColor
+
+  /// What it takes of the form with its thickness, in twips. holder: the place of what holds it.
+  Area reach(const Area& holder) const;
 };
 
 /// A rectangle filled with BackColor inside a border of ForeColor.

@@ -13,22 +13,12 @@ namespace {
 /// Letters may stand out of their place a little.
 constexpr double kMargin = 2 * kTwipsPerPixel;
 
-Area placeOfLine(const Line& line) {
-  const double unit = line.outerUnit();
-  const Area holder = line.container() != nullptr ? line.container()->area() : Area{};
-  const auto [left, right] = std::minmax<double>(line.X1, line.X2);
-  const auto [top, bottom] = std::minmax<double>(line.Y1, line.Y2);
-  const double thick = line.BorderWidth * kTwipsPerPixel;
-  return Area{holder.left + left * unit, holder.top + top * unit, (right - left) * unit, (bottom - top) * unit}.shrunk(
-      -thick);
-}
-
 /// What the control takes of the window now; empty when it is hidden.
 Area placeOf(const Control& control) {
   if (!control.shown()) return {};
-  const Area place =
-      control.kind() == ControlKind::Line ? placeOfLine(static_cast<const Line&>(control)) : control.area();
-  return place.shrunk(-kMargin);
+  if (control.kind() != ControlKind::Line) return control.area().shrunk(-kMargin);
+  const Area holder = control.container() != nullptr ? control.container()->area() : Area{};
+  return static_cast<const Line&>(control).reach(holder).shrunk(-kMargin);
 }
 
 }  // namespace

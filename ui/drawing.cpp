@@ -151,7 +151,8 @@ void drawAll(Painter& painter, const std::vector<Control*>& siblings, const Area
   for (const Control* control : siblings) {
     if (!control->Visible) continue;
     if (control->kind() == ControlKind::Line) {
-      draw(painter, static_cast<const Line&>(*control), holder, unit);
+      const auto& line = static_cast<const Line&>(*control);
+      if (dirty.touches(line.reach(holder))) draw(painter, line, holder, unit);
       continue;
     }
     const Area place{holder.left + control->Left * unit, holder.top + control->Top * unit, control->Width * unit,

@@ -77,7 +77,8 @@ void Canvas::paintEvent(QPaintEvent* event) {
   QPainter painter(this);
   painter.setClipRegion(event->region());
   drawForm(painter, *form_, event->region());
-  if (form_->kind() == FormKind::Frame) return;
+  const bool atEdge = !rect().adjusted(1, 0, -1, -1).contains(event->rect());
+  if (form_->kind() == FormKind::Frame || !atEdge) return;
   QtPainter through(painter);
   drawFrameEdge(through, *form_);
 }

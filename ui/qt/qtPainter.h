@@ -32,6 +32,8 @@ class QtPainter final : public Painter {
   void popClip() override;
 
  private:
+  void outlineOf(const QRectF& place, const QColor& ink);
+
   QPainter& painter_;
 };
 
