@@ -75,7 +75,6 @@ void Canvas::showChanges(const std::vector<Control*>& changed) {
 void Canvas::paintEvent(QPaintEvent* event) {
   if (form_ == nullptr) return;
   QPainter painter(this);
-  painter.setClipRegion(event->region());
   drawForm(painter, *form_, event->region());
   const bool atEdge = !rect().adjusted(1, 0, -1, -1).contains(event->rect());
   if (form_->kind() == FormKind::Frame || !atEdge) return;
