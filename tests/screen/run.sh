@@ -40,6 +40,9 @@ await() {
 }
 managed() { xprop -root _NET_SUPPORTING_WM_CHECK | grep -q 'window id'; }
 
+tests=$("$program" --gtest_list_tests --gtest_filter="$filter" | sed -n 's/^  //p')
+[ -n "$tests" ] || { echo "no test is called $filter"; exit 1; }
+
 status=0
 for size in 1920x1080 1366x768 1280x720; do
   echo "-- $size"
@@ -51,7 +54,7 @@ for size in 1920x1080 1366x768 1280x720; do
   manager=$!
   await "window manager" managed
   # Each in a process of its own, as a program runs.
-  for test in $("$program" --gtest_list_tests --gtest_filter="$filter" | sed -n 's/^  //p'); do
+  for test in $tests; do
     xdotool mousemove 2 2
     timeout 60 "$program" --gtest_filter="*.$test" --gtest_brief=1 || { status=1; echo "FAILED at $size: $test"; }
   done

@@ -20,9 +20,11 @@
 #include "lessons/frmNavigation.h"
 #include "monitor/frmDumpCDIO.h"
 #include "monitor/frmDumpDRC.h"
+#include "monitor/frmHint.h"
 #include "monitor/frmRegister.h"
 #include "shell/frmDefault.h"
 #include "shell/frmMDI.h"
+#include "shell/frmVersion.h"
 #include "support/program.h"
 #include "ui/qt/qtPlatform.h"
 #include "ui/qt/windows.h"
@@ -149,6 +151,24 @@ class WindowManagerTest : public testing::Test {
   Windows windows_;
   QtPlatform platform_{windows_};
 };
+
+TEST_F(WindowManagerTest, TheWindowThatTheStartShowedLastHasTheUser) {
+  const auto turnedTo = [this](Form& form) {
+    return comesTrue(
+        [&] { return desk().active() == &form && QApplication::activeWindow() == windowOf(form).window(); });
+  };
+  // The desktop chooses another window when the splash goes.
+  ASSERT_TRUE(comesTrue([] { return !frmVersion.visible(); }));
+  pass(kToSettle);
+  EXPECT_TRUE(turnedTo(*frmHint));
+  click(frmRegister->lblReg(0));
+  EXPECT_TRUE(turnedTo(*frmRegister));
+  click(frmMDI->lblDefault);
+  EXPECT_TRUE(turnedTo(*frmDefault));
+  person("key Escape");
+  EXPECT_FALSE(frmDefault.visible());
+  EXPECT_TRUE(turnedTo(*frmMDI)) << "where it was opened";
+}
 
 TEST_F(WindowManagerTest, InsidesLieWhereTheModelHasThem) {
   for (const Form* form : desk().forms()) {

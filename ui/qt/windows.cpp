@@ -41,6 +41,8 @@ Qt::WindowFlags flagsOf(const Form& form) {
 
 Windows::Windows() {
   QApplication::instance()->installEventFilter(this);
+  answer_.setSingleShot(true);
+  connect(&answer_, &QTimer::timeout, this, &Windows::askDesktop);
   connect(qApp, &QGuiApplication::applicationStateChanged, this, [](Qt::ApplicationState state) {
     // Another program, or a locked screen, has the mouse now.
     if (state != Qt::ApplicationActive) desk().hand.lose();
@@ -71,6 +73,8 @@ void Windows::formLoaded(Form& form) {
                                                      : new FormWindow(form, canvas, frame_, flagsOf(form));
   window->setWindowTitle(QString::fromStdString(form.Caption.get()));
   window->setAttribute(Qt::WA_AlwaysShowToolTips);
+  // Which window the user is turned to is the model's to say: the desktop is asked for it.
+  window->setAttribute(Qt::WA_ShowWithoutActivating, form.kind() == FormKind::Window);
   shown_.insert(&form, {canvas, window});
   place(form, {canvas, window});
   form.takeChanged();
@@ -133,6 +137,7 @@ void Windows::placeChildren() {
 }
 
 void Windows::showFrame() {
+  asked_.append(frame_);  // window managers turn to a program's first window by themselves
   const QRect screen = frame_->screen()->availableGeometry();
   if (offscreen()) {
     frame_->setGeometry(screen.adjusted(0, qRound(kCaptionHeight / kTwipsPerPixel), 0, 0));
@@ -188,8 +193,8 @@ QWidget* Windows::frontWindow() const {
 void Windows::formHidden(Form& form) {
   const QScopedValueRollback<bool> following(following_, true);
   if (QWidget* window = windowOf(form)) window->hide();
-  if (turnedTo_ == &form) turnedTo_ = nullptr;
-  if (asked_ == windowOf(form)) asked_ = nullptr;
+  turnedTo_ = nullptr;  // the desktop turns to a window of its own choice
+  asked_.removeAll(windowOf(form));
 }
 
 void Windows::formUnloaded(Form& form) {
@@ -203,7 +208,7 @@ void Windows::formUnloaded(Form& form) {
   shown.canvas->forgetForm();
   if (auto* window = qobject_cast<FormWindow*>(shown.window)) window->forgetForm();
   shown.window->hide();
-  if (asked_ == shown.window) asked_ = nullptr;
+  asked_.removeAll(shown.window);
   if (shown.window == frame_) {
     frame_ = nullptr;
     area_ = nullptr;
@@ -280,9 +285,11 @@ void Windows::turnKeyboard() {
   if (active == nullptr || canvasOf(*active) == nullptr) return;
   // The desktop turns to the frame for what lies inside it.
   QWidget* window = windowOf(*active)->window();
-  if (active != turnedTo_ && (asked_ != nullptr || QApplication::activeWindow() != window)) {
-    window->activateWindow();
-    asked_ = window;
+  const QWidget* there = asked_.empty() ? QApplication::activeWindow() : asked_.back();
+  if (active != turnedTo_ && there != window) {
+    asked_.append(window);
+    tries_ = 0;
+    askDesktop();
   }
   turnedTo_ = active;
   // One widget has the keyboard: the focused field's, or the canvas of the active window.
@@ -292,8 +299,22 @@ void Windows::turnKeyboard() {
   if (QApplication::activePopupWidget() == nullptr && !target->hasFocus()) target->setFocus(Qt::OtherFocusReason);
 }
 
+void Windows::askDesktop() {
+  constexpr int kMostTries = 4;
+  constexpr int kPatience = 300;  // milliseconds that the desktop gets for an answer
+  if (asked_.empty()) return;
+  const bool elsewhere = tries_ > 0 && QApplication::activeWindow() == nullptr;  // the user is in another program
+  if (elsewhere || tries_++ == kMostTries) {
+    asked_.clear();
+    followDesktop();
+    return;
+  }
+  asked_.back()->activateWindow();
+  answer_.start(kPatience);
+}
+
 void Windows::followDesktop() {
-  if (asked_ != nullptr) return;
+  if (!asked_.empty()) return;
   Form* form = formOf(QApplication::activeWindow());
   if (form == nullptr || form->kind() != FormKind::Window || !form->visible()) return;
   if (form != desk().active()) gesture::activate(*form);
@@ -328,7 +349,7 @@ bool Windows::eventFilter(QObject* watched, QEvent* event) {
   switch (event->type()) {
     case QEvent::MouseButtonPress:
     case QEvent::KeyPress:
-      asked_ = nullptr;  // whatever the desktop does from here on is an answer to the user
+      asked_.clear();  // whatever the desktop does from here on is an answer to the user
       return false;
     case QEvent::Close:
     case QEvent::Move:
@@ -357,8 +378,12 @@ bool Windows::windowEvent(Form& form, QWidget& window, QEvent& event) {
       if (form.kind() == FormKind::Frame || (sizable(form) && !following_)) takeSize(form, window);
       return false;
     case QEvent::WindowActivate:
-      if (asked_ == &window) asked_ = nullptr;
-      if (!following_ && form.kind() == FormKind::Window) QTimer::singleShot(0, this, &Windows::followDesktop);
+      if (asked_.contains(&window)) {
+        // An answer; what was asked before it is over too.
+        asked_.remove(0, asked_.indexOf(&window) + 1);
+      } else if (!following_ && form.kind() == FormKind::Window) {
+        QTimer::singleShot(0, this, &Windows::followDesktop);
+      }
       return false;
     case QEvent::WindowStateChange:
       // A strip or a dialog has nothing to fill a screen with; a desktop's keys may ask for it all the same.

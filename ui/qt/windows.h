@@ -1,9 +1,11 @@
 #pragma once
 
 #include <QHash>
+#include <QList>
 #include <QMainWindow>
 #include <QObject>
 #include <QSet>
+#include <QTimer>
 #include <vector>
 
 #include "ui/form.h"
@@ -58,6 +60,9 @@ class Windows final : public QObject, public View {
   void placeChildren();
   void stack();
   void turnKeyboard();
+  /// Asks the desktop for the last window that it was asked for, again and again until it answers or has been asked
+  /// often enough: a request is lost when it comes before the window that it overtook.
+  void askDesktop();
   /// Turns to the window that the desktop has turned to. It is asked when all the news are in: while windows open, the
   /// desktop turns to one after the other, and tells of them late.
   void followDesktop();
@@ -72,7 +77,9 @@ class Windows final : public QObject, public View {
   QSet<Form*> placed_;              // title and place of these are
   std::vector<Form*> stacked_;      // front to back, as the windows lie now
   const Form* turnedTo_ = nullptr;  // as the desktop has been told
-  const QWidget* asked_ = nullptr;  // the window that the desktop was asked to turn to, until it has
+  QList<QWidget*> asked_;           // what the desktop was asked to turn to and has not yet, in this order
+  QTimer answer_;
+  int tries_ = 0;
   QMainWindow* frame_ = nullptr;
   ClientArea* area_ = nullptr;
   bool scheduled_ = false;
