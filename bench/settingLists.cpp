@@ -5,6 +5,7 @@
 #include "bench/pinModes.h"
 #include "state/state.h"
 #include "text/hexText.h"
+#include "text/shortText.h"
 #include "ui/runTimeError.h"
 
 namespace zelvs {
@@ -30,8 +31,9 @@ void fillIoModes(ListControl& list) {
 
 void selectSetting(ComboBox& list, std::string_view key, int value) {
   if (value < 0 || value >= list.ListCount()) {
-    runTimeError(iniFilePath + ": " + std::string(key) + "=" + std::to_string(value) + " is no position of the list " +
-                 list.fullName() + ", which has the positions 0 to " + std::to_string(list.ListCount() - 1));
+    runTimeError(shortPath(iniFilePath) + ": " + std::string(key) + "=" + std::to_string(value) +
+                 " is no position of the list " + list.fullName() + ", which has the positions 0 to " +
+                 std::to_string(list.ListCount() - 1));
   }
   list.ListIndex = value;
 }

@@ -6,6 +6,7 @@
 
 #include "lessons/frmNaviList.h"
 #include "lessons/naviIndex.h"
+#include "text/shortText.h"
 #include "text/textFile.h"
 #include "text/utf8.h"
 #include "ui/desk.h"
@@ -104,12 +105,14 @@ void FrmNavigation::setNavigation(const std::string& fileName) {
   naviLines.clear();
   clearPage();
   path_ = naviPath(fileName);
-  const auto lines = readTextFile(path_);
-  if (!lines) runTimeError("lesson file not found: " + path_);
+  std::string refusal;
+  const auto lines = readTextFile(path_, &refusal);
+  if (!refusal.empty()) runTimeError(shortPath(path_) + " cannot be read: " + refusal);
+  if (!lines) runTimeError("lesson file not found: " + shortPath(path_));
   naviLines = *lines;
   const std::size_t pages = naviLines.size() / kLinesOfPage;
   if (pages > std::numeric_limits<std::int16_t>::max()) {
-    runTimeError(path_ + " has too many pages: " + std::to_string(pages));
+    runTimeError(shortPath(path_) + " has too many pages: " + std::to_string(pages));
   }
   pageCount = static_cast<std::int16_t>(pages);
   turnTo(1);
@@ -126,7 +129,7 @@ void FrmNavigation::showPage(int page) {
   for (PictureBox& strip : picNav) {
     const int number = (page - 1) * kLinesOfPage + strip.index() + 1;
     if (number < 1 || static_cast<std::size_t>(number) > naviLines.size()) {
-      runTimeError(path_ + " has no line " + std::to_string(number) + " for page " + std::to_string(page) +
+      runTimeError(shortPath(path_) + " has no line " + std::to_string(number) + " for page " + std::to_string(page) +
                    ": it has " + std::to_string(naviLines.size()) + " lines");
     }
     strip.cls();

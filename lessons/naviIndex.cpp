@@ -5,6 +5,7 @@
 #include <vector>
 
 #include "state/state.h"
+#include "text/shortText.h"
 #include "text/textFile.h"
 
 namespace zelvs {
@@ -18,9 +19,17 @@ Flag isLesson(const std::string& fileName) {
   return std::filesystem::is_regular_file(naviPath(fileName), error) ? kTrue : kFalse;
 }
 
-[[noreturn]] void refuse(const std::string& path, std::size_t number, const std::string& line) {
-  runTimeError(path + ", line " + std::to_string(number) + ": no file name, title and note with a TAB between: \"" +
-               line + "\"");
+/// The list shows every entry: more than these nobody has written by hand, or could look through.
+constexpr std::size_t kMostEntries = 10000;
+
+[[noreturn]] void refuse(const std::string& path, const std::string& why) {
+  runTimeError(shortPath(path) + why);
+}
+
+[[noreturn]] void refuseLine(const std::string& path, std::size_t number, const std::string& line) {
+  constexpr std::size_t kMostOfLine = 40;
+  refuse(path, ", line " + std::to_string(number) + ": no file name, title and note with a TAB between: \"" +
+                   shortened(line, kMostOfLine) + "\"");
 }
 
 }  // namespace
@@ -29,13 +38,18 @@ void readNaviIndex() {
   naviDataPath = programFolder + "/NaviData/";
   naviIndex.clear();
   const std::string path = naviPath("NaviIndex.txt");
-  const std::optional<std::vector<std::string>> lines = readTextFile(path);
+  std::string refusal;
+  const std::optional<std::vector<std::string>> lines = readTextFile(path, &refusal);
+  if (!refusal.empty()) refuse(path, " cannot be read: " + refusal);
   if (!lines) return;
   for (std::size_t i = 0; i < lines->size(); ++i) {
     const std::string& line = (*lines)[i];
     if (line.starts_with(';')) continue;
     const std::vector<std::string> fields = fieldsOf(line, kFields);
-    if (fields.size() < kFields) refuse(path, i + 1, line);
+    if (fields.size() < kFields) refuseLine(path, i + 1, line);
+    if (naviIndex.size() == kMostEntries) {
+      refuse(path, " has more than " + std::to_string(kMostEntries) + " entries at line " + std::to_string(i + 1));
+    }
     naviIndex.push_back({fields[0], fields[1], fields[2], isLesson(fields[0])});
   }
 }

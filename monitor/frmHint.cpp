@@ -16,6 +16,8 @@ constexpr double kTabHeight = 360;
 /// Room for the picture when there is none to measure.
 constexpr double kEmptyWidth = 7200;
 constexpr double kEmptyHeight = 4500;
+/// Nobody finds a tab among more, and no desktop has room for them.
+constexpr int kMostHints = 1000;
 
 }  // namespace
 
@@ -51,6 +53,7 @@ void FrmHint::initHint() {
   int count = 0;
   for (const std::string& line : readTextFile(hintDir + "RegsterHint.TXT").value_or(std::vector<std::string>())) {
     if (line.starts_with(';')) continue;
+    if (count == kMostHints) break;
     tabHint.Tabs = ++count;
     const std::vector<std::string> fields = fieldsOf(line, 3);  // picture, caption, and what is ignored
     if (fields.size() > 1) tabHint.setTabCaption(count - 1, fields[1]);

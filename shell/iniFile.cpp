@@ -4,18 +4,19 @@
 #include <array>
 #include <cmath>
 #include <cstdint>
-#include <cstdio>
-#include <filesystem>
 #include <optional>
+#include <utility>
 
 #include "bench/settingKeys.h"
+#include "files/readFile.h"
+#include "files/writeFile.h"
 #include "state/state.h"
 #include "text/number.h"
-#include "text/textFile.h"
+#include "text/shortText.h"
+#include "text/utf16.h"
+#include "ui/runTimeError.h"
 
 namespace zelvs {
-
-namespace fs = std::filesystem;
 
 namespace {
 
@@ -80,9 +81,22 @@ std::string valueOf(const Entry& entry) {
   return std::string(value.substr(0, kLongestValue));
 }
 
+/// A file's bytes as UTF-8. Nothing where they begin as UTF-16 and are none.
+std::optional<std::string> decoded(const std::string& bytes) {
+  const std::optional<ByteOrder> order = byteOrderOf(bytes);
+  return order ? utf8FromUtf16(bytes, *order) : bytes;
+}
+
 }  // namespace
 
-Profile::Profile(const std::string& path) : text_(readFile(path).value_or(std::string())) {}
+Profile::Profile(const std::string& path) {
+  std::string refusal;
+  const std::optional<std::string> bytes = readFile(path, &refusal, kLargestIniFile);
+  std::optional<std::string> text = decoded(bytes.value_or(""));
+  if (!text) refusal = "it begins as UTF-16 and is none";
+  if (!refusal.empty()) runTimeError(shortPath(path) + " cannot be read: " + refusal);
+  text_ = std::move(*text);
+}
 
 std::vector<std::optional<std::string>> Profile::values(std::string_view section,
                                                         const std::vector<std::string_view>& keys) const {
@@ -162,28 +176,6 @@ std::string withValue(const std::string& text, std::string_view section, std::st
   return result;
 }
 
-bool writeAndClose(std::FILE* file, const std::string& text) {
-  if (file == nullptr) return false;
-  const bool written = std::fwrite(text.data(), 1, text.size(), file) == text.size() && std::fflush(file) == 0;
-  return std::fclose(file) == 0 && written;
-}
-
-bool writeOver(const fs::path& path, const std::string& text) {
-  const bool written = writeAndClose(std::fopen(path.c_str(), "r+b"), text);
-  std::error_code error;
-  if (written) fs::resize_file(path, text.size(), error);
-  return written && !error;
-}
-
-bool writable(const fs::path& path) {
-  // Asked by the file's own mode: an administrator could write it all the same, and shall not.
-  std::error_code error;
-  const fs::file_status status = fs::status(path, error);
-  if (!fs::exists(status)) return true;
-  constexpr auto kWriters = fs::perms::owner_write | fs::perms::group_write | fs::perms::others_write;
-  return fs::is_regular_file(status) && (status.permissions() & kWriters) != fs::perms::none;
-}
-
 }  // namespace
 
 std::string getIniValue(std::string_view section, std::string_view key, std::string_view fallback) {
@@ -191,32 +183,16 @@ std::string getIniValue(std::string_view section, std::string_view key, std::str
 }
 
 void writeIniValues(std::string_view section, const std::vector<IniValue>& values) {
-  std::error_code error;
-  fs::path path = iniFilePath;
-  if (fs::is_symlink(path, error)) {
-    path = fs::canonical(path, error);
-    if (error) return;
-  }
-  // A missing file is no error: the first value written makes it. One that cannot be read would lose its lines.
-  const std::optional<std::string> old = readFile(path.string());
-  if (!writable(path) || (!old && fs::exists(path, error))) return;
-  std::string text = old.value_or(std::string());
-  for (const auto& [key, value] : values)
-    text = withValue(text, section, key, value);
-  fs::path fresh = path;
-  fresh += ".new";
-  std::FILE* file = std::fopen(fresh.c_str(), "wb");
-  if (file == nullptr) {
-    // The folder takes no second file. Should the disk be full, the old text has its room still.
-    if (old && !writeOver(path, text)) writeOver(path, *old);
-    return;
-  }
-  if (writeAndClose(file, text)) {
-    if (old) fs::permissions(fresh, fs::status(path, error).permissions(), error);
-    fs::rename(fresh, path, error);
-    if (!error) return;
-  }
-  fs::remove(fresh, error);
+  const Change withValues = [&](const std::optional<std::string>& old) {
+    const std::optional<ByteOrder> order = byteOrderOf(old.value_or(""));
+    // A missing file is no error: the first value written makes it.
+    std::optional<std::string> text = decoded(old.value_or(""));
+    if (!text) return *old;
+    for (const auto& [key, value] : values)
+      text = withValue(*text, section, key, value);
+    return order ? utf16FromUtf8(*text, *order) : *text;
+  };
+  static_cast<void>(changeFile(iniFilePath, withValues, kLargestIniFile));
 }
 
 void writeIniValue(std::string_view section, std::string_view key, std::string_view value) {

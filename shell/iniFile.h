@@ -12,8 +12,13 @@ namespace zelvs {
 /// Section of ZELVS.INI that holds the settings.
 inline constexpr std::string_view kIniSection = "INIT";
 
+/// The largest file of settings that is read, in bytes: other programs may keep a lot in it.
+inline constexpr std::size_t kLargestIniFile = 128 << 20;
+
 /// A file in the line format of a platform profile: "[section]" lines and "key=value" lines, sections and keys told
-/// apart without regard to case. Of doubled sections and keys the first counts. A file that cannot be read is empty.
+/// apart without regard to case. Of doubled sections and keys the first counts. It may be in UTF-16 with a byte order
+/// mark. No file is an empty one; one that is there and cannot be read is a run-time error that names it, since zeros
+/// in its place would be saved over what it holds.
 class Profile {
  public:
   explicit Profile(const std::string& path);
@@ -35,9 +40,8 @@ struct IniValue {
   std::string_view key;
   std::string value;
 };
-/// Writes keys into iniFilePath, in their order where they are new, and keeps every other line. The new file takes the
-/// place of the old one only when it is whole; in a folder that takes no new file the old one is written over. A disk
-/// that fills up and a file that may not be written leave everything as it was, without a word.
+/// Writes keys into iniFilePath, in their order where they are new, and keeps every other line, the line ends and the
+/// encoding. What cannot be written whole (changeFile) leaves everything as it was, without a word.
 void writeIniValues(std::string_view section, const std::vector<IniValue>& values);
 void writeIniValue(std::string_view section, std::string_view key, std::string_view value);
 

@@ -1,10 +1,8 @@
 #include "text/textFile.h"
 
 #include <algorithm>
-#include <cstdint>
-#include <filesystem>
-#include <fstream>
 
+#include "files/readFile.h"
 #include "text/codePage932.h"
 
 namespace zelvs {
@@ -15,28 +13,23 @@ std::string fileIn(const std::string& folder, std::string_view name) {
   return folder + own;
 }
 
-std::optional<std::string> readFile(const std::string& path) {
-  std::error_code error;
-  if (!std::filesystem::is_regular_file(path, error)) return std::nullopt;
-  std::ifstream file(path, std::ios::binary);
-  const std::uintmax_t size = std::filesystem::file_size(path, error);
-  if (!file || error) return std::nullopt;
-  std::string bytes;
-  bytes.resize(static_cast<std::size_t>(size));
-  file.read(bytes.data(), static_cast<std::streamsize>(bytes.size()));
-  bytes.resize(static_cast<std::size_t>(std::max<std::streamsize>(file.gcount(), 0)));
-  return bytes;
-}
-
-std::optional<std::vector<std::string>> readTextFile(const std::string& path) {
-  const std::optional<std::string> bytes = readFile(path);
+std::optional<std::vector<std::string>> readTextFile(const std::string& path, std::string* refusal) {
+  const std::optional<std::string> bytes = readFile(path, refusal);
   if (!bytes) return std::nullopt;
-  const std::string text = utf8FromCodePage932(*bytes);
   std::vector<std::string> lines;
-  for (std::size_t at = 0; at < text.size();) {
-    const std::size_t end = std::min(text.find('\n', at), text.size());
-    const bool carriageReturn = end < text.size() && end > at && text[end - 1] == '\r';
-    lines.push_back(text.substr(at, end - at - (carriageReturn ? 1 : 0)));
+  // No second byte of a character is a line feed or a carriage return.
+  for (std::size_t at = 0; at < bytes->size();) {
+    const std::size_t end = std::min(bytes->find('\n', at), bytes->size());
+    const bool carriageReturn = end < bytes->size() && end > at && (*bytes)[end - 1] == '\r';
+    const std::size_t length = end - at - (carriageReturn ? 1 : 0);
+    if (length > kLongestLine) {
+      if (refusal != nullptr) {
+        *refusal =
+            "line " + std::to_string(lines.size() + 1) + " is longer than " + std::to_string(kLongestLine) + " bytes";
+      }
+      return std::nullopt;
+    }
+    lines.push_back(utf8FromCodePage932(std::string_view(*bytes).substr(at, length)));
     at = end + 1;
   }
   return lines;

@@ -14,8 +14,8 @@
 #include <optional>
 #include <string>
 
+#include "files/readFile.h"
 #include "text/codePage932.h"
-#include "text/textFile.h"
 #include "text/utf8.h"
 
 namespace {

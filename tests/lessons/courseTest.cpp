@@ -10,6 +10,7 @@
 #include <string_view>
 #include <vector>
 
+#include "files/readFile.h"
 #include "text/codePage932.h"
 #include "text/textFile.h"
 #include "text/utf8.h"

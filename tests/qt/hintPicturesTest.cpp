@@ -7,6 +7,7 @@
 #include <set>
 #include <string>
 
+#include "files/readFile.h"
 #include "text/textFile.h"
 #include "tools/hintSheet.h"
 

@@ -13,7 +13,10 @@
 #include <vector>
 
 #include "shell/iniFile.h"
+#include "support/faultyFiles.h"
 #include "support/program.h"
+#include "text/utf16.h"
+#include "ui/runTimeError.h"
 
 namespace zelvs {
 namespace {
@@ -412,10 +415,87 @@ TEST_F(IniFileTest, ALinkStaysALink) {
 }
 
 TEST_F(IniFileTest, ALinkToNowhereIsLeftAlone) {
-  fs::create_symlink("nowhere.ini", iniFilePath);
+  fs::create_symlink("nowhere/real.ini", iniFilePath);
   writeIniValue("INIT", "KEY", "9");
   EXPECT_TRUE(fs::is_symlink(iniFilePath));
   EXPECT_EQ(names(), std::vector<std::string>{"ZELVS.INI"});
+}
+
+TEST_F(IniFileTest, BehindALinkTheFileIsMadeWhereThereIsAFolderForIt) {
+  fs::create_symlink("real.ini", iniFilePath);
+  EXPECT_EQ(get("KEY"), "");
+  writeIniValue("INIT", "KEY", "9");
+  EXPECT_TRUE(fs::is_symlink(iniFilePath));
+  EXPECT_EQ(folder.read("real.ini"), "[INIT]\r\nKEY=9\r\n");
+}
+
+// ---- Read errors
+
+TEST_F(IniFileTest, AReadErrorWhileSavingLosesNoLine) {
+  std::string before = "[INIT]\r\nKEY=7\r\n[OTHERS]\r\n";
+  for (int line = 0; line < 3000; ++line)
+    before += "SETTING" + std::to_string(line) + "=of another program\r\n";
+  write(before);
+  FaultyFiles files;
+  files.only = "read";
+  files.at = 1;
+  for (const std::errc error : {std::errc::io_error, std::errc::permission_denied}) {
+    files.calls.clear();
+    files.error = error;
+    writeIniValue("INIT", "KEY", "9");
+    EXPECT_EQ(files.calls.size(), 1u);
+    EXPECT_EQ(read(), before);
+  }
+  // A short read is no end of the file.
+  files.calls.clear();
+  files.fault = FaultyFiles::Fault::HalfWay;
+  writeIniValue("INIT", "KEY", "9");
+  EXPECT_EQ(read(), "[INIT]\r\nKEY=9" + before.substr(before.find("\r\n[OTHERS]")));
+}
+
+TEST_F(IniFileTest, AFileThatIsThereAndCannotBeReadIsNoFileOfZeros) {
+  write("[INIT]\r\nCPUTYPE=2\r\n");
+  FaultyFiles files;
+  files.only = "read";
+  files.at = 1;
+  EXPECT_EXIT(readIniFile(), testing::ExitedWithCode(kRunTimeErrorStatus),
+              "ZELVS.INI cannot be read: Input/output error");
+  EXPECT_EXIT(get("CPUTYPE"), testing::ExitedWithCode(kRunTimeErrorStatus),
+              "ZELVS.INI cannot be read: Input/output error");
+}
+
+TEST_F(IniFileTest, AFileOfATerabyteIsRefusedAtOnce) {
+  write("[INIT]\r\nCPUTYPE=2\r\n");
+  ASSERT_EQ(truncate(iniFilePath.c_str(), off_t{1} << 40), 0);
+  EXPECT_EXIT(readIniFile(), testing::ExitedWithCode(kRunTimeErrorStatus),
+              "ZELVS.INI cannot be read: larger than 134217728 bytes");
+  writeIniValue("INIT", "KEY", "9");
+  EXPECT_EQ(static_cast<off_t>(fs::file_size(iniFilePath)), off_t{1} << 40);
+}
+
+// ---- UTF-16
+
+TEST_F(IniFileTest, AFileInUtf16IsReadAndStaysOne) {
+  for (const ByteOrder order : {ByteOrder::LowFirst, ByteOrder::HighFirst}) {
+    const auto inUtf16 = [&](const std::string& text) { return utf16FromUtf8("\uFEFF" + text, order); };
+    write(inUtf16("; 設定 𠮷\r\n[INIT]\r\nCPUTYPE=2\r\nKEY=7\r\n"));
+    readIniFile();
+    EXPECT_EQ(cpuType, 2);
+    writeIniValue("INIT", "KEY", "9");
+    EXPECT_EQ(read(), inUtf16("; 設定 𠮷\r\n[INIT]\r\nCPUTYPE=2\r\nKEY=9\r\n"));
+    writeIniValue("INIT", "NEW", "1");
+    EXPECT_EQ(read(), inUtf16("; 設定 𠮷\r\n[INIT]\r\nCPUTYPE=2\r\nKEY=9\r\nNEW=1\r\n"));
+  }
+}
+
+TEST_F(IniFileTest, WhatBeginsAsUtf16AndIsNoneIsRefusedAndStays) {
+  for (const std::string& damaged : {"\xFF\xFE["s, "\xFE\xFF\xD8\x00"s, "\xFF\xFE\x00\xDC"s}) {
+    write(damaged);
+    EXPECT_EXIT(readIniFile(), testing::ExitedWithCode(kRunTimeErrorStatus),
+                "ZELVS.INI cannot be read: it begins as UTF-16 and is none");
+    writeIniValue("INIT", "KEY", "9");
+    EXPECT_EQ(read(), damaged);
+  }
 }
 
 }  // namespace

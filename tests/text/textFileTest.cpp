@@ -4,6 +4,7 @@
 #include <string>
 #include <vector>
 
+#include "files/readFile.h"
 #include "support/program.h"
 #include "text/textFile.h"
 

@@ -9,8 +9,8 @@
 #include <vector>
 
 #include "dialogs/beep.h"
+#include "files/readFile.h"
 #include "support/program.h"
-#include "text/textFile.h"
 #include "ui/waveFile.h"
 
 namespace zelvs {
