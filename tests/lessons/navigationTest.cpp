@@ -1,6 +1,7 @@
 // The lessons: their index, the list to choose from, and the strip that shows them page by page.
 
 #include <filesystem>
+#include <functional>
 #include <string>
 #include <vector>
 
@@ -13,6 +14,7 @@
 #include "support/program.h"
 #include "support/userFixture.h"
 #include "text/codePage932.h"
+#include "text/utf8.h"
 #include "ui/inspect.h"
 
 namespace zelvs {
@@ -141,6 +143,55 @@ TEST_F(NavigationTest, AMalformedLineIsNamed) {
     write("NaviIndex.txt", row.lines);
     EXPECT_EXIT(readNaviIndex(), kErrorStatus, row.message) << row.name;
   }
+}
+
+/// What a run-time error tells, in characters.
+std::size_t lengthOfError(const std::function<void()>& fails, const std::string& end) {
+  constexpr std::size_t kProgram = 9;  // "ZEL-VS: " and the line's end
+  testing::internal::CaptureStderr();
+  const pid_t child = fork();
+  if (child == 0) {
+    fails();
+    _exit(0);
+  }
+  waitpid(child, nullptr, 0);
+  const std::string told = testing::internal::GetCapturedStderr();
+  EXPECT_TRUE(told.ends_with(end + "\n")) << told;
+  return charactersOf(told).size() - kProgram;
+}
+
+TEST_F(NavigationTest, AnErrorOfTheIndexIsShortWhateverTheLineAndTheFolderAre) {
+  constexpr std::size_t kMost = 200;
+  const std::string longName(200, 'x');
+  std::filesystem::create_directories(folder.file(longName + "/" + longName + "/NaviData"));
+  const std::string list = longName + "/" + longName + "/NaviData/NaviIndex.txt";
+  programFolder = folder.file(longName + "/" + longName);
+  folder.write(list, std::string(60000, 'y') + "\r\n");
+  EXPECT_LE(lengthOfError(readNaviIndex,
+                          "/NaviData/NaviIndex.txt, line 1: no file name, title and note with a TAB "
+                          "between: \"yyyyyyyyyyyyy…yyyyyyyyyyyyyyyyyyyyyyyyyy\""),
+            kMost);
+  folder.write(list, "a\tb\tc\r\n" + std::string(65537, 'y'));
+  EXPECT_LE(lengthOfError(readNaviIndex, "/NaviIndex.txt cannot be read: line 2 is longer than 65536 bytes"), kMost);
+  folder.write(list, "");
+  ASSERT_EQ(truncate(folder.file(list).c_str(), off_t{1} << 40), 0);
+  EXPECT_LE(lengthOfError(readNaviIndex, "/NaviIndex.txt cannot be read: larger than 16777216 bytes"), kMost);
+  naviDataPath = programFolder + "/NaviData/";
+  EXPECT_LE(lengthOfError([] { frmNavigation->setNavigation("NaviIndex.txt"); },
+                          "/NaviIndex.txt cannot be read: larger than 16777216 bytes"),
+            kMost);
+}
+
+TEST_F(NavigationTest, TheIndexHasAsManyEntriesAsSomebodyMayLookThrough) {
+  constexpr std::size_t kMost = 10000;
+  std::vector<std::string> lines(kMost, "a\tb\tc");
+  lines.push_back("; no entry");
+  write("NaviIndex.txt", lines);
+  start();
+  EXPECT_EQ(naviIndex.size(), kMost);
+  lines.push_back("a\tb\tc");
+  write("NaviIndex.txt", lines);
+  EXPECT_EXIT(readNaviIndex(), kErrorStatus, "NaviIndex.txt has more than 10000 entries at line 10002");
 }
 
 // ---- The list

@@ -68,6 +68,23 @@ TEST_F(HintTest, EachEntryIsATabAndAnImage) {
   EXPECT_TRUE(frmHint->picHint.Visible);
 }
 
+TEST_F(HintTest, AListThatIsTooLongIsNotReported) {
+  constexpr int kMost = 1000;
+  std::string list;
+  for (int line = 0; line <= kMost; ++line)
+    list += "1.bmp\tSCR\r\n";
+  startWith(list);
+  EXPECT_EQ(frmHint->tabHint.Tabs, kMost);
+  // A line, and a file, beyond the limits of a text.
+  folder.write("HintData/RegsterHint.TXT", "1.bmp\tSCR\r\n1.bmp\t" + std::string(65536, 'x'));
+  frmHint->initHint();
+  EXPECT_EQ(frmHint->tabHint.Tabs, 1);
+  EXPECT_EQ(frmHint->ilsHint.count(), 0);
+  ASSERT_EQ(truncate(folder.file("HintData/RegsterHint.TXT").c_str(), off_t{1} << 40), 0);
+  frmHint->initHint();
+  EXPECT_EQ(frmHint->ilsHint.count(), 0);
+}
+
 TEST_F(HintTest, LinesOfTheList) {
   struct Row {
     const char* name;

@@ -58,6 +58,23 @@ TEST(TextFile, ALongFileIsReadWhole) {
   EXPECT_EQ(lines->back(), "表19999");
 }
 
+TEST(TextFile, ALineIsAsLongAsItMayBeOrTheFileIsRefused) {
+  const TemporaryFolder folder;
+  const std::string longest(65536, 'x');
+  std::string refusal;
+  for (const char* end : {"", "\n", "\r\n", "\r\nmore"}) {
+    folder.write("a.txt", "first\n" + longest + end);
+    const auto lines = readTextFile(folder.file("a.txt"), &refusal);
+    ASSERT_TRUE(lines);
+    EXPECT_EQ((*lines)[1], longest);
+    EXPECT_EQ(refusal, "");
+    folder.write("a.txt", "first\n" + longest + "y" + end);
+    EXPECT_FALSE(readTextFile(folder.file("a.txt"), &refusal));
+    EXPECT_EQ(refusal, "line 2 is longer than 65536 bytes");
+    EXPECT_FALSE(readTextFile(folder.file("a.txt"))) << "nobody needs to ask why";
+  }
+}
+
 TEST(TextFile, FieldsStandBetweenTabs) {
   EXPECT_EQ(fieldsOf("a\tb\tc", 3), (Lines{"a", "b", "c"}));
   EXPECT_EQ(fieldsOf("a\tb\tc\td", 3), (Lines{"a", "b", "c\td"})) << "the last one takes the rest";

@@ -2,6 +2,7 @@
 
 #include <QAbstractItemView>
 #include <QApplication>
+#include <QBuffer>
 #include <QComboBox>
 #include <QKeyEvent>
 #include <QListWidget>
@@ -15,6 +16,7 @@
 #include <cstdio>
 #include <optional>
 
+#include "files/writeFile.h"
 #include "ui/desk.h"
 #include "ui/listRows.h"
 #include "ui/qt/keys.h"
@@ -194,7 +196,11 @@ class WindowedHands final : public Hands {
   std::string screenshot(Form* form, const std::string& file) override {
     settle();
     const QPixmap picture = form == nullptr ? wholeScreen() : windows_.windowOf(*form)->grab();
-    return picture.save(QString::fromStdString(file), "PNG") ? std::string() : "cannot write " + file;
+    QByteArray bytes;
+    QBuffer buffer(&bytes);
+    if (!picture.save(&buffer, "PNG")) return "cannot write " + file;
+    const std::string why = writeFile(file, {bytes.constData(), static_cast<std::size_t>(bytes.size())});
+    return why.empty() ? why : "cannot write " + file + ": " + why;
   }
 
  private:
