@@ -10,6 +10,7 @@
 #include <cerrno>
 #include <climits>
 #include <filesystem>
+#include <map>
 
 #include "files/fileSystem.h"
 
@@ -32,30 +33,41 @@ void take(const struct stat& from, FileSystem::Status& status) {
   status.names = from.st_nlink;
 }
 
-/// An extended attribute's value; nothing is told of one that cannot be read.
-std::error_code attributeOf(int file, const char* name, std::string& value) {
-  const ssize_t size = fgetxattr(file, name, nullptr, 0);
-  if (size < 0) return outcome(size);
-  value.resize(static_cast<std::size_t>(size));
-  return outcome(fgetxattr(file, name, value.data(), value.size()));
-}
+using Attributes = std::map<std::string, std::string>;
 
-std::error_code copyExtendedAttributes(int from, int to) {
-  const ssize_t size = flistxattr(from, nullptr, 0);
+std::error_code readAttributes(int file, Attributes& attributes) {
+  const ssize_t size = flistxattr(file, nullptr, 0);
   // A file system without them has none to lose.
   if (size < 0) return errno == ENOTSUP ? std::error_code() : outcome(size);
   std::string names(static_cast<std::size_t>(size), '\0');
-  const ssize_t read = flistxattr(from, names.data(), names.size());
+  const ssize_t read = flistxattr(file, names.data(), names.size());
   if (read < 0) return outcome(read);
   names.resize(static_cast<std::size_t>(read));
   for (std::size_t at = 0; at < names.size(); at = names.find('\0', at) + 1) {
     const char* name = names.c_str() + at;
-    std::string value;
-    if (const std::error_code error = attributeOf(from, name, value)) return error;
-    // The system may have given it to the new file already, and to nobody the right to do so.
-    std::string own;
-    if (!attributeOf(to, name, own) && own == value) continue;
-    if (const std::error_code error = outcome(fsetxattr(to, name, value.data(), value.size(), 0))) return error;
+    const ssize_t length = fgetxattr(file, name, nullptr, 0);
+    if (length < 0) return outcome(length);
+    std::string value(static_cast<std::size_t>(length), '\0');
+    if (const std::error_code error = outcome(fgetxattr(file, name, value.data(), value.size()))) return error;
+    attributes.emplace(name, value);
+  }
+  return {};
+}
+
+/// Only what differs is touched: the system may have given the new file what nobody may set.
+std::error_code copyExtendedAttributes(int from, int to) {
+  Attributes wanted;
+  Attributes own;
+  if (const std::error_code error = readAttributes(from, wanted)) return error;
+  if (const std::error_code error = readAttributes(to, own)) return error;
+  for (const auto& [name, value] : own) {
+    if (wanted.contains(name)) continue;
+    if (const std::error_code error = outcome(fremovexattr(to, name.c_str()))) return error;
+  }
+  for (const auto& [name, value] : wanted) {
+    const auto found = own.find(name);
+    if (found != own.end() && found->second == value) continue;
+    if (const std::error_code error = outcome(fsetxattr(to, name.c_str(), value.data(), value.size(), 0))) return error;
   }
   return {};
 }

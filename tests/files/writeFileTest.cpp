@@ -208,6 +208,36 @@ TEST_F(WriteFileTest, ModeOwnerAndAttributesAreKept) {
   }
 }
 
+TEST_F(WriteFileTest, WhatTheFolderWouldGiveANewFileDoesNotComeToAnOldOne) {
+  folder.write("file", kOld);
+  // Whatever is new in the folder may be used by one more user: five rows of what, which rights, whose.
+  struct Row {
+    std::uint16_t what, rights;
+    std::uint32_t whose;
+  };
+  constexpr std::uint32_t kNone = 0xFFFFFFFF;
+  const struct {
+    std::uint32_t version = 2;
+    Row rows[5] = {{1, 7, kNone}, {2, 7, 4711}, {4, 5, kNone}, {16, 7, kNone}, {32, 5, kNone}};
+  } rights;
+  if (setxattr(folder.path().c_str(), "system.posix_acl_default", &rights, sizeof rights, 0) != 0) {
+    GTEST_SKIP() << "this file system has no such rights";
+  }
+  const auto hasRights = [&](const std::string& name) {
+    return getxattr(path(name).c_str(), "system.posix_acl_access", nullptr, 0) > 0;
+  };
+  folder.write("new", "");
+  ASSERT_TRUE(hasRights("new"));
+  const mode_t before = statusOf("file").st_mode;
+  EXPECT_EQ(writeFile(path(), kNew), "");
+  EXPECT_EQ(folder.read("file"), kNew);
+  EXPECT_FALSE(hasRights("file"));
+  EXPECT_EQ(statusOf("file").st_mode, before);
+  // And what an old one has is kept.
+  EXPECT_EQ(writeFile(path("new"), kNew), "");
+  EXPECT_TRUE(hasRights("new"));
+}
+
 TEST_F(WriteFileTest, ANewFileIsReadableAsTheUsersMaskSays) {
   const mode_t before = umask(027);
   EXPECT_EQ(writeFile(path(), kNew), "");
