@@ -178,8 +178,13 @@ void FrmDefault::load() {
   fillIoModes(cmbIOS);
   fillList(cmbMode, kCounterModes);
   // The file, not the settings of the running bench.
-  for (const Field& field : fields())
-    setField(field, leadingNumber(getIniValue(kIniSection, field.key, "")));
+  const auto all = fields();
+  std::vector<std::string_view> keys;
+  for (const Field& field : all)
+    keys.push_back(field.key);
+  const std::vector<std::string> values = getIniValues(kIniSection, keys);
+  for (std::size_t i = 0; i < all.size(); ++i)
+    setField(all[i], leadingNumber(values[i]));
 }
 
 void FrmDefault::activated() {

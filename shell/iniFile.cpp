@@ -182,6 +182,13 @@ std::string getIniValue(std::string_view section, std::string_view key, std::str
   return numberText(Profile(iniFilePath).values(section, {key})[0].value_or(std::string(fallback)));
 }
 
+std::vector<std::string> getIniValues(std::string_view section, const std::vector<std::string_view>& keys) {
+  std::vector<std::string> numbers;
+  for (const std::optional<std::string>& value : Profile(iniFilePath).values(section, keys))
+    numbers.push_back(numberText(value.value_or(std::string())));
+  return numbers;
+}
+
 void writeIniValues(std::string_view section, const std::vector<IniValue>& values) {
   const Change withValues = [&](const std::optional<std::string>& old) {
     const std::optional<ByteOrder> order = byteOrderOf(old.value_or(""));
@@ -234,11 +241,9 @@ void readIniFile() {
   std::vector<std::string_view> keys;
   for (const Setting& setting : settings())
     keys.push_back(setting.key);
-  // All keys in one pass: a file may be large.
-  const auto values = Profile(iniFilePath).values(kIniSection, keys);
-  for (std::size_t i = 0; i < keys.size(); ++i) {
-    *settings()[i].variable = wholeNumber16(leadingNumber(numberText(values[i].value_or(std::string()))));
-  }
+  const std::vector<std::string> values = getIniValues(kIniSection, keys);
+  for (std::size_t i = 0; i < keys.size(); ++i)
+    *settings()[i].variable = wholeNumber16(leadingNumber(values[i]));
   copyTransferSetting();
 }
 

@@ -35,6 +35,8 @@ class Profile {
 /// The leading number of a key's value in iniFilePath, as text ("12 apples" gives "12", "x" gives "0"), or the empty
 /// text when the value is missing or empty.
 std::string getIniValue(std::string_view section, std::string_view key, std::string_view fallback);
+/// The same for several keys of one reading, since the file may be large; the empty text is the fallback.
+std::vector<std::string> getIniValues(std::string_view section, const std::vector<std::string_view>& keys);
 
 struct IniValue {
   std::string_view key;
