@@ -1,0 +1,13 @@
+#pragma once
+
+#include <cstddef>
+#include <string>
+#include <string_view>
+
+namespace zelvs {
+
+/// The text with at most `most` characters, from 1: of a longer one the head and the tail, with "…" between them that
+/// counts as one. What ends such a text, a file's name above all, says as much as what begins it. No character is cut.
+std::string shortened(std::string_view text, std::size_t most);
+
+}  // namespace zelvs
