@@ -2,34 +2,21 @@
 
 #include <fcntl.h>
 #include <sys/stat.h>
-#include <sys/wait.h>
 
 #include <cstdlib>
 #include <string>
 
-#include "support/program.h"
+#include "support/outcome.h"
 
 namespace zelvs {
 namespace {
-
-struct Outcome {
-  int status = -1;
-  std::string output;
-  std::string errors;
-};
 
 class ScriptProgramTest : public testing::Test {
  protected:
   ScriptProgramTest() { folder.write("ZELVS.INI", makerIni()); }
 
-  /// Runs the program with these words behind its name and the commands as its input. It has ten seconds. under: a
-  /// command that starts the one behind it.
-  Outcome run(const std::string& words, const std::string& input = {}, const std::string& under = {}) {
-    work.write("input", input);
-    const std::string line = "timeout 10 " + under + " '" ZELVS_SCRIPT "' < '" + work.file("input") + "' > '" +
-                             work.file("output") + "' 2> '" + work.file("errors") + "' " + words;
-    const int result = std::system(line.c_str());
-    return {WIFEXITED(result) ? WEXITSTATUS(result) : -1, work.read("output"), work.read("errors")};
+  static Outcome run(const std::string& words, const std::string& input = {}, const std::string& under = {}) {
+    return runOutside(ZELVS_SCRIPT, words, input, under);
   }
   std::string here() const { return "--folder '" + folder.path() + "' "; }
 
@@ -187,6 +174,36 @@ TEST_F(ScriptProgramTest, AFileThatMayNotGrowIsLikeAFullDisk) {
   EXPECT_EQ(outcome.status, 0);
   EXPECT_EQ(outcome.output, "ok\n");
   EXPECT_EQ(folder.read("ZELVS.INI"), makerIni() + lines);
+}
+
+/// Every end of a script, and nothing is left in the folder for temporary files.
+TEST_F(ScriptProgramTest, NothingIsLeftBehind) {
+  struct End {
+    const char* name;
+    std::string commands;
+    std::string under;
+    int status;
+  };
+  const End ends[] = {
+      {"the last line", "now\n", "", 0},
+      {"inside a modal window", "close frmMDI\n", "", 0},
+      {"the user's exit", "close frmMDI\nanswer ok\n", "", 0},
+      {"nobody takes the answers", "now\n", "sh -c '\"$@\" > /dev/full' sh", 4},
+      // The list of schematics names a file that is not there.
+      {"a run-time error", "dblclick frmHard.picQVT(0)\n", "", 3},
+      {"a signal", "", "sh -c 'sleep 2 | timeout -s TERM 1 \"$@\"' sh", 124},
+  };
+  for (const std::string& windows : {std::string(), std::string("--desktop ")}) {
+    if (!windows.empty() && run("--desktop " + here()).status == 2) break;  // a build without windows
+    for (const End& end : ends) {
+      SCOPED_TRACE(windows + end.name);
+      const TemporaryFolder temporary;
+      const std::string environment =
+          "-u XDG_RUNTIME_DIR -u DISPLAY -u WAYLAND_DISPLAY TMPDIR='" + temporary.path() + "' ";
+      EXPECT_EQ(run(windows + here(), end.commands, environment + end.under).status, end.status);
+      EXPECT_TRUE(std::filesystem::is_empty(temporary.path()));
+    }
+  }
 }
 
 TEST_F(ScriptProgramTest, NoArgumentIsTooLong) {
