@@ -104,6 +104,7 @@ void FrmNavigation::setNavigation(const std::string& fileName) {
   naviLines.clear();
   clearPage();
   path_ = naviPath(fileName);
+  const Deed deed("opening the lesson", path_);
   const auto lines = readTextFile(path_);
   if (!lines) runTimeError("lesson file not found: " + path_);
   naviLines = *lines;
@@ -122,6 +123,7 @@ void FrmNavigation::turnTo(int page) {
 }
 
 void FrmNavigation::showPage(int page) {
+  const Deed deed("showing a page of the lesson", path_);
   lblIndex.Caption = std::to_string(page) + "/" + std::to_string(pageCount);
   for (PictureBox& strip : picNav) {
     const int number = (page - 1) * kLinesOfPage + strip.index() + 1;

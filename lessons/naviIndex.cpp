@@ -29,6 +29,7 @@ void readNaviIndex() {
   naviDataPath = programFolder + "/NaviData/";
   naviIndex.clear();
   const std::string path = naviPath("NaviIndex.txt");
+  const Deed deed("reading the list of lessons", path);
   const std::optional<std::vector<std::string>> lines = readTextFile(path);
   if (!lines) return;
   for (std::size_t i = 0; i < lines->size(); ++i) {

@@ -6,6 +6,7 @@
 #include "state/state.h"
 #include "text/textFile.h"
 #include "ui/platform.h"
+#include "ui/runTimeError.h"
 
 namespace zelvs {
 
@@ -46,6 +47,7 @@ void FrmHint::load() {
 
 void FrmHint::initHint() {
   hintDir = programFolder + "/HintData/";
+  const Deed deed("reading the hints in", hintDir);
   tabHint.Tabs = 1;
   ilsHint.clear();
   int count = 0;

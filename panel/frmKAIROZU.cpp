@@ -6,6 +6,7 @@
 #include "monitor/frmDumpSel.h"
 #include "state/state.h"
 #include "ui/platform.h"
+#include "ui/runTimeError.h"
 
 namespace zelvs {
 
@@ -73,6 +74,7 @@ FrmKAIROZU::FrmKAIROZU() : Form("frmKAIROZU", kKind, Border::Fixed) {
 
 void FrmKAIROZU::setKAIROZU(int index) {
   const Schematic schematic = schematicOf(index);
+  const Deed deed("showing the schematic", schematic.main);
   picKAIROZU.Left = 0;
   picKAIROZU.Top = 0;
   picKAIROZU.Picture = pictureNamed(schematic.main);

@@ -6,6 +6,7 @@
 
 #include "script/commands.h"
 #include "ui/desk.h"
+#include "ui/runTimeError.h"
 
 namespace zelvs {
 
@@ -56,6 +57,8 @@ bool ScriptRunner::readLine(std::string& line, bool& tooLong) {
 
 void ScriptRunner::runLine(const std::string& line) {
   constexpr std::string_view kByteOrderMark = "\xEF\xBB\xBF";
+  const std::string place = std::to_string(lines_) + ": " + line;
+  const Deed deed("carrying out line", place);
   const bool marked = line.starts_with(kByteOrderMark);
   const auto words = wordsOf(std::string_view(line).substr(marked ? kByteOrderMark.size() : 0));
   if (words && words->empty()) return;

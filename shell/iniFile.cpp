@@ -12,6 +12,7 @@
 #include "state/state.h"
 #include "text/number.h"
 #include "text/textFile.h"
+#include "ui/runTimeError.h"
 
 namespace zelvs {
 
@@ -255,6 +256,7 @@ void copyTransferSetting() {
 
 void readIniFile() {
   iniFilePath = programFolder + "/ZELVS.INI";
+  const Deed deed("reading the settings", iniFilePath);
   std::vector<std::string_view> keys;
   for (const Setting& setting : settings())
     keys.push_back(setting.key);
