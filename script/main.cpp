@@ -18,6 +18,7 @@
 #include "ui/desk.h"
 #include "ui/headless/headlessHands.h"
 #include "ui/platform.h"
+#include "ui/runTimeError.h"
 #ifdef ZELVS_DESKTOP
 #include "ui/qt/desktopScript.h"
 #endif
@@ -72,6 +73,8 @@ std::ostream& output() {
 
 void tellFatal(const std::string& text) {
   output() << "fatal: " << text << std::endl;
+  for (const std::string& words : zelvs::deedWords())
+    std::fprintf(stderr, "zelvs-script: %s\n", words.c_str());
 }
 
 int runScript(zelvs::Channel& script, zelvs::ScriptedPlatform& platform, zelvs::Hands& hands, bool prompt) {

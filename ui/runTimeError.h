@@ -1,5 +1,6 @@
 #pragma once
 
+#include <concepts>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -28,7 +29,7 @@ class Deed {
   /// what: as it stands behind "while", "reading the lesson". name: of what it is done to, where that has one. Both
   /// outlive the deed.
   explicit Deed(std::string_view what, std::string_view name = {});
-  Deed(std::string_view what, std::string&& name) = delete;
+  Deed(std::string_view what, std::same_as<std::string> auto&& name) = delete;  // it would be gone at once
   /// Done to a control, or to the form itself where there is none.
   Deed(std::string_view what, const Form& form, const Control* control = nullptr);
   Deed(std::string_view what, const Control& control);

@@ -56,6 +56,18 @@ TEST_F(ScriptProgramTest, ARunTimeErrorEndsItWithStatusThree) {
   EXPECT_EQ(outcome.status, 3);
   EXPECT_TRUE(outcome.output.starts_with("fatal: " + folder.file("ZELVS.INI") + ": CPUTYPE=4 ")) << outcome.output;
   EXPECT_EQ(std::count(outcome.output.begin(), outcome.output.end(), '\n'), 1);
+  EXPECT_EQ(outcome.errors, "zelvs-script: while loading the window frmHard\nzelvs-script: while starting up\n");
+}
+
+TEST_F(ScriptProgramTest, ARunTimeErrorIsToldWithItsLineOfTheScript) {
+  const Outcome outcome = run(here(), "now\ndblclick frmHard.picQVT(0)   # there is no schematic\n");
+  EXPECT_EQ(outcome.status, 3);
+  EXPECT_EQ(outcome.output,
+            "now = 0\nfatal: picture file not found: " + folder.file("Kairozu/QVT60_FULL_16BIT.BMP") + "\n");
+  EXPECT_EQ(outcome.errors,
+            "zelvs-script: while showing the schematic QVT60_FULL_16BIT.BMP\n"
+            "zelvs-script: while double-clicking frmHard.picQVT(0)\n"
+            "zelvs-script: while carrying out line 2: dblclick frmHard.picQVT(0)   # there is no schematic\n");
 }
 
 TEST_F(ScriptProgramTest, AWrongCommandLineIsToldWithTheUsage) {

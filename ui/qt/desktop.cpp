@@ -4,6 +4,7 @@
 #include <QMessageBox>
 #include <cstdio>
 
+#include "text/shortText.h"
 #include "ui/desk.h"
 #include "ui/qt/qtPlatform.h"
 #include "ui/qt/windows.h"
@@ -25,19 +26,39 @@ bool hasDisplay() {
 #endif
 }
 
+std::string (*theReporter)(const std::string& text) = nullptr;
+QtPlatform* thePlatform = nullptr;
+
+/// What has gone wrong may do so again at the next tick, or when it is painted anew: the words would be gone before
+/// anybody had read them.
+void holdStill() {
+  thePlatform->stopClock();
+  for (QWidget* window : QApplication::topLevelWidgets())
+    window->setUpdatesEnabled(false);
+}
+
 void tellUser(const std::string& text) {
-  std::fprintf(stderr, "ZEL-VS: %s\n", text.c_str());
+  const std::string what = shortened(text, kLongestTold);
+  std::string more;
+  for (const std::string& deed : deedWords())
+    more += deed + "\n";
+  more += theReporter(text);
+  std::fprintf(stderr, "ZEL-VS: %s\n%s\n", what.c_str(), more.c_str());
   // Off-screen nobody could ever press OK.
   const QString platform = QGuiApplication::platformName();
   if (platform == "offscreen" || platform == "minimal") return;
-  QMessageBox box(QMessageBox::Critical, "ZEL-VS", QString::fromStdString(text), QMessageBox::Ok);
+  holdStill();
+  QMessageBox box(QMessageBox::Critical, "ZEL-VS", QString::fromStdString(what), QMessageBox::Ok);
+  box.setInformativeText(QString::fromStdString(more));
+  box.setTextFormat(Qt::PlainText);
+  box.setTextInteractionFlags(Qt::TextSelectableByMouse);
   box.setWindowFlag(Qt::WindowStaysOnTopHint);  // in front of the splash
   box.exec();
 }
 
 }  // namespace
 
-int runDesktop(int& argc, char** argv, const std::function<void()>& start) {
+int runDesktop(int& argc, char** argv, const std::function<void()>& start, std::string (*report)(const std::string&)) {
   if (!hasDisplay()) {
     std::fprintf(stderr,
                  "zelvs: there is no display (neither DISPLAY nor WAYLAND_DISPLAY is set).\n"
@@ -47,9 +68,11 @@ int runDesktop(int& argc, char** argv, const std::function<void()>& start) {
   QApplication application(argc, argv);
   QApplication::setApplicationName("ZEL-VS");
   setUpLook();
-  setRunTimeErrorTeller(tellUser);
   Windows windows;
   QtPlatform platform(windows);
+  theReporter = report;
+  thePlatform = &platform;
+  setRunTimeErrorTeller(tellUser);
   setView(&windows);
   setPlatform(&platform);
   start();
