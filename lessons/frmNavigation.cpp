@@ -25,8 +25,6 @@ constexpr double kButtonHeight = 360;
 constexpr Colour kPaper = 0xF0FFFF;
 constexpr Colour kPaperRim = 0xA0B0B0;
 
-constexpr int kLinesOfPage = 3;
-
 struct Mark {
   char32_t sign;
   Colour colour;

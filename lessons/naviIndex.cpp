@@ -1,17 +1,13 @@
 #include "lessons/naviIndex.h"
 
 #include <filesystem>
-#include <optional>
 #include <vector>
 
-#include "state/state.h"
 #include "text/textFile.h"
 
 namespace zelvs {
 
 namespace {
-
-constexpr std::size_t kFields = 3;  // file name, title, note
 
 Flag isLesson(const std::string& fileName) {
   std::error_code error;
@@ -25,19 +21,31 @@ Flag isLesson(const std::string& fileName) {
 
 }  // namespace
 
+std::string lessonsFolder() {
+  return programFolder + "/NaviData/";
+}
+
+std::optional<NaviRecord> naviRecordOf(const std::string& line) {
+  constexpr std::size_t kFields = 3;  // file name, title, note
+  const std::vector<std::string> fields = fieldsOf(line, kFields);
+  if (fields.size() < kFields) return std::nullopt;
+  return NaviRecord{fields[0], fields[1], fields[2], kFalse};
+}
+
 void readNaviIndex() {
-  naviDataPath = programFolder + "/NaviData/";
+  naviDataPath = lessonsFolder();
   naviIndex.clear();
-  const std::string path = naviPath("NaviIndex.txt");
+  const std::string path = naviPath(kIndexOfLessons);
   const Deed deed("reading the list of lessons", path);
   const std::optional<std::vector<std::string>> lines = readTextFile(path);
   if (!lines) return;
   for (std::size_t i = 0; i < lines->size(); ++i) {
     const std::string& line = (*lines)[i];
     if (line.starts_with(';')) continue;
-    const std::vector<std::string> fields = fieldsOf(line, kFields);
-    if (fields.size() < kFields) refuse(path, i + 1, line);
-    naviIndex.push_back({fields[0], fields[1], fields[2], isLesson(fields[0])});
+    std::optional<NaviRecord> record = naviRecordOf(line);
+    if (!record) refuse(path, i + 1, line);
+    record->exists = isLesson(record->fileName);
+    naviIndex.push_back(std::move(*record));
   }
 }
 

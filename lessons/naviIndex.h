@@ -1,9 +1,21 @@
 #pragma once
 
+#include <optional>
 #include <string>
 #include <string_view>
 
+#include "state/state.h"
+
 namespace zelvs {
+
+inline constexpr std::string_view kIndexOfLessons = "NaviIndex.txt";
+
+/// The lessons' folder, with its last separator, below programFolder.
+std::string lessonsFolder();
+
+/// An entry of the index, as yet without whether its lesson is there. Nothing for a line that is no entry; whoever
+/// reads the index leaves comments out before, which begin with ";".
+std::optional<NaviRecord> naviRecordOf(const std::string& line);
 
 /// Fills naviDataPath and naviIndex. Without an index file the list is empty; a line
 /// that is no entry is a run-time error.

@@ -8,7 +8,9 @@
 #include <filesystem>
 #include <optional>
 
+#include "bench/pinModes.h"
 #include "bench/settingKeys.h"
+#include "bench/settingLists.h"
 #include "state/state.h"
 #include "text/number.h"
 #include "text/textFile.h"
@@ -225,27 +227,28 @@ void writeIniValue(std::string_view section, std::string_view key, std::string_v
 }
 
 std::span<const Setting> settings() {
+  constexpr int kFlag = 2;
   static const std::array<Setting, 20> table = {{
-      {kCablesKey, &cableConnection, 1},
-      {kMemoryClearKey, &memoryClear, 1},
-      {kCpuTypeKey, &cpuType, 0},
-      {kTransferKey, &transferSetting[0], 0},
-      {kAddressKeys[0], &saSetting[0], 0},
-      {kAddressKeys[1], &saSetting[1], 2},
-      {kAddressKeys[2], &saSetting[2], 4},
-      {kClockKeys[0], &clockSetting[0], 0},
-      {kClockKeys[1], &clockSetting[1], 0},
-      {kClockKeys[2], &clockSetting[2], 0},
-      {kClockKeys[3], &clockSetting[3], 0},
-      {kCascadeKeys[0], &cascadeSetting[1], 1},
-      {kCascadeKeys[1], &cascadeSetting[2], 1},
-      {kIoModeKey, &ioBoardMode, 5},
-      {kCounterModeKey, &ioBoardCounterMode, 0},
-      {kOpenWindowKeys[0], &openWindow[1], 1},
-      {kOpenWindowKeys[1], &openWindow[2], 1},
-      {kOpenWindowKeys[2], &openWindow[3], 1},
-      {kOpenWindowKeys[3], &openWindow[4], 0},
-      {kOpenWindowKeys[4], &openWindow[5], 0},
+      {kCablesKey, &cableConnection, 1, kFlag},
+      {kMemoryClearKey, &memoryClear, 1, kFlag},
+      {kCpuTypeKey, &cpuType, 0, std::ssize(kCpuTypes)},
+      {kTransferKey, &transferSetting[0], 0, kFlag},
+      {kAddressKeys[0], &saSetting[0], 0, kStations},
+      {kAddressKeys[1], &saSetting[1], 2, kStations},
+      {kAddressKeys[2], &saSetting[2], 4, kStations},
+      {kClockKeys[0], &clockSetting[0], 0, std::ssize(kClocks)},
+      {kClockKeys[1], &clockSetting[1], 0, std::ssize(kClocks)},
+      {kClockKeys[2], &clockSetting[2], 0, std::ssize(kClocks)},
+      {kClockKeys[3], &clockSetting[3], 0, std::ssize(kClocks)},
+      {kCascadeKeys[0], &cascadeSetting[1], 1, kFlag},
+      {kCascadeKeys[1], &cascadeSetting[2], 1, kFlag},
+      {kIoModeKey, &ioBoardMode, 5, std::ssize(kIoModes)},
+      {kCounterModeKey, &ioBoardCounterMode, 0, std::ssize(kCounterModes)},
+      {kOpenWindowKeys[0], &openWindow[1], 1, kFlag},
+      {kOpenWindowKeys[1], &openWindow[2], 1, kFlag},
+      {kOpenWindowKeys[2], &openWindow[3], 1, kFlag},
+      {kOpenWindowKeys[3], &openWindow[4], 0, kFlag},
+      {kOpenWindowKeys[4], &openWindow[5], 0, kFlag},
   }};
   return table;
 }
@@ -254,8 +257,12 @@ void copyTransferSetting() {
   std::fill(transferSetting.begin() + 1, transferSetting.end(), transferSetting[0]);
 }
 
+std::string iniPath() {
+  return programFolder + "/ZELVS.INI";
+}
+
 void readIniFile() {
-  iniFilePath = programFolder + "/ZELVS.INI";
+  iniFilePath = iniPath();
   const Deed deed("reading the settings", iniFilePath);
   std::vector<std::string_view> keys;
   for (const Setting& setting : settings())

@@ -51,12 +51,15 @@ struct Setting {
   std::string_view key;
   std::int16_t* variable;
   std::int16_t makerValue;
+  int values;  ///< how many make sense, from 0; nobody asks when the file is read
 };
 /// All settings, in the order of reading. transferSetting has copies of its first entry behind it.
 std::span<const Setting> settings();
 /// Carries transferSetting[0] over to its copies.
 void copyTransferSetting();
 
+/// Where the settings of programFolder are kept.
+std::string iniPath();
 /// Builds iniFilePath and fills all settings from the file. What is missing reads as 0.
 void readIniFile();
 /// Puts the maker's values straight into the settings.

@@ -2,7 +2,10 @@
 
 #include <QApplication>
 #include <QMessageBox>
+#include <algorithm>
 #include <cstdio>
+#include <string_view>
+#include <utility>
 
 #include "text/shortText.h"
 #include "ui/desk.h"
@@ -24,6 +27,19 @@ bool hasDisplay() {
 #else
   return true;
 #endif
+}
+
+int tellNoDisplay(int& argc, char** argv) {
+  if (argc > 1) {
+    // The toolkit knows its own arguments also where it has nothing to show on.
+    qputenv("QT_QPA_PLATFORM", "offscreen");
+    const QApplication application(argc, argv);
+    if (argc > 1) return refuseArgument(argv[1]);
+  }
+  std::fprintf(stderr,
+               "zelvs: there is no display (neither DISPLAY nor WAYLAND_DISPLAY is set).\n"
+               "Start it on a desktop, or drive it without one by zelvs-script.\n");
+  return kNoDisplay;
 }
 
 std::string (*theReporter)(const std::string& text) = nullptr;
@@ -58,14 +74,33 @@ void tellUser(const std::string& text) {
 
 }  // namespace
 
-int runDesktop(int& argc, char** argv, const std::function<void()>& start, std::string (*report)(const std::string&)) {
-  if (!hasDisplay()) {
-    std::fprintf(stderr,
-                 "zelvs: there is no display (neither DISPLAY nor WAYLAND_DISPLAY is set).\n"
-                 "Start it on a desktop, or drive it without one by zelvs-script.\n");
-    return kNoDisplay;
+void takeDisplayArguments(int& argc, char** argv) {
+  constexpr std::pair<std::string_view, const char*> kArguments[] = {{"-display", "DISPLAY"},
+                                                                     {"-platform", "QT_QPA_PLATFORM"}};
+  for (const auto& [argument, variable] : kArguments) {
+    const auto asks = [&](std::string_view given) {
+      return given == argument || (given.starts_with("--") && given.substr(1) == argument);
+    };
+    char** const at = std::find_if(argv + 1, argv + argc, asks);
+    if (argv + argc - at < 2) continue;
+    qputenv(variable, at[1]);
+    std::move(at + 2, argv + argc + 1, at);  // with the null behind them
+    argc -= 2;
   }
+}
+
+int refuseArgument(const char* argument) {
+  constexpr int kWrongCommandLine = 2;
+  const std::string told = shortened(argument, kLongestTold);
+  std::fprintf(stderr, "zelvs: unknown argument: %s\n%s", told.c_str(), kDesktopUsage);
+  return kWrongCommandLine;
+}
+
+int runDesktop(int& argc, char** argv, const std::function<void()>& start, std::string (*report)(const std::string&)) {
+  takeDisplayArguments(argc, argv);
+  if (!hasDisplay()) return tellNoDisplay(argc, argv);
   QApplication application(argc, argv);
+  if (argc > 1) return refuseArgument(argv[1]);
   QApplication::setApplicationName("ZEL-VS");
   setUpLook();
   Windows windows;
