@@ -17,10 +17,9 @@ void fillList(ListControl& list, std::span<const std::string_view> texts) {
 }
 
 void fillStations(ListControl& list) {
-  constexpr unsigned kStations = 63;
   list.clear();
-  for (unsigned station = 1; station <= kStations; ++station)
-    list.addItem("0x" + hexText(station, 2));
+  for (int station = 1; station <= kStations; ++station)
+    list.addItem("0x" + hexText(static_cast<unsigned>(station), 2));
 }
 
 void fillIoModes(ListControl& list) {

@@ -15,9 +15,11 @@ inline constexpr std::array<std::string_view, 3> kClocks = {"48MHz", "24MHz", "1
 inline constexpr std::array<std::string_view, 4> kCounterModes = {"0 フリーカウント", "1 内部ゲート1", "2 内部ゲート2",
                                                                   "3 外部ゲート"};
 
+inline constexpr int kStations = 63;
+
 /// Replaces a list's rows.
 void fillList(ListControl& list, std::span<const std::string_view> texts);
-/// The stations, "0x01" to "0x3F": row n stands for station n + 1.
+/// The kStations stations, "0x01" to "0x3F": row n stands for station n + 1.
 void fillStations(ListControl& list);
 /// Board 5's IOS modes.
 void fillIoModes(ListControl& list);

@@ -6,10 +6,14 @@
 
 namespace zelvs {
 
+std::string beepPath() {
+  return programFolder + "/BEEP.WAV";
+}
+
 void openBeepDevice() {
   Sound& device = frmHard->mmcBeep;
   device.DeviceType = "WaveAudio";
-  device.FileName = programFolder + "/BEEP.WAV";
+  device.FileName = beepPath();
   if (device.command("Open")) beepDeviceOpen = kTrue;
 }
 

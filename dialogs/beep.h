@@ -1,6 +1,11 @@
 #pragma once
 
+#include <string>
+
 namespace zelvs {
+
+/// Where BEEP.WAV of the program folder lies.
+std::string beepPath();
 
 /// Opens BEEP.WAV of the program folder. beepDeviceOpen tells whether it could; nothing is said when it could not.
 void openBeepDevice();

@@ -16,6 +16,9 @@ namespace {
 constexpr std::string_view kFreshSuffix = ".new";
 constexpr std::size_t kFreshDigits = 16;
 
+/// The mode of a file that takes nobody's place: the user's mask takes bits away.
+constexpr unsigned kOfMask = 0666;
+
 struct Place {
   std::string folder;  // with its last separator, or empty for the current one
   std::string name;
@@ -149,9 +152,7 @@ Replacement fillFresh(const std::string& name, unsigned mode, const OpenFile& ol
 }
 
 Replacement replace(const Place& place, const OpenFile& old, std::string_view bytes) {
-  // A file that nobody else has may be read by others as the user's own mask says, one that takes another's place as
-  // that one says: until it has its attributes nobody else reads it.
-  constexpr unsigned kOfMask = 0666;
+  // One that takes another's place may be read as that one says: until it has its attributes nobody else reads it.
   constexpr unsigned kOwnOnly = 0600;
   const std::string name = place.folder + freshName(place);
   Replacement tried = fillFresh(name, old.open() ? kOwnOnly : kOfMask, old, bytes);
@@ -217,6 +218,13 @@ std::string changeFile(const std::string& path, const Change& change, std::size_
   const std::string bytes = change(oldBytes);
   if (bytes == oldBytes) return {};
   return told(put(place, folder, oldBytes, old, status.names > 1, bytes));
+}
+
+std::error_code writeNewFile(const std::string& path, std::string_view bytes) {
+  const Replacement made = fillFresh(path, kOfMask, OpenFile(), bytes);
+  // What could not be made is another's.
+  if (made.error && !made.cannotStand) static_cast<void>(fileSystem().remove(path));
+  return made.error;
 }
 
 std::string writeFile(const std::string& path, std::string_view bytes) {

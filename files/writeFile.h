@@ -5,6 +5,7 @@
 #include <optional>
 #include <string>
 #include <string_view>
+#include <system_error>
 
 #include "files/readFile.h"
 
@@ -37,5 +38,9 @@ std::string changeFile(const std::string& path, const Change& change, std::size_
 
 /// The same with bytes that do not hang on the old ones, of which there may be 256 MiB.
 std::string writeFile(const std::string& path, std::string_view bytes);
+
+/// A file that was not there before; whatever bears the name, also a link to nowhere, is left alone and is
+/// std::errc::file_exists. Others may read it as the user's mask says. One that cannot be written whole is taken away.
+std::error_code writeNewFile(const std::string& path, std::string_view bytes);
 
 }  // namespace zelvs

@@ -26,8 +26,6 @@ constexpr double kButtonHeight = 360;
 constexpr Colour kPaper = 0xF0FFFF;
 constexpr Colour kPaperRim = 0xA0B0B0;
 
-constexpr int kLinesOfPage = 3;
-
 struct Mark {
   char32_t sign;
   Colour colour;
@@ -105,6 +103,7 @@ void FrmNavigation::setNavigation(const std::string& fileName) {
   naviLines.clear();
   clearPage();
   path_ = naviPath(fileName);
+  const Deed deed("opening the lesson", path_);
   std::string refusal;
   const auto lines = readTextFile(path_, &refusal);
   if (!refusal.empty()) runTimeError(shortPath(path_) + " cannot be read: " + refusal);
@@ -125,6 +124,7 @@ void FrmNavigation::turnTo(int page) {
 }
 
 void FrmNavigation::showPage(int page) {
+  const Deed deed("showing a page of the lesson", path_);
   lblIndex.Caption = std::to_string(page) + "/" + std::to_string(pageCount);
   for (PictureBox& strip : picNav) {
     const int number = (page - 1) * kLinesOfPage + strip.index() + 1;

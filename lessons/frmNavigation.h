@@ -14,6 +14,9 @@ namespace zelvs {
 inline constexpr double kLessonFromRight = 50;
 inline constexpr double kLessonFromBottom = 500;
 
+/// Lines of a lesson's file that are a page.
+inline constexpr int kLinesOfPage = 3;
+
 /// A lesson, page by page, in the right bottom corner of the screen. It only tells: what is done is up to the user.
 /// Three lines of its file are a page, of which the third is never shown; lines behind the last whole page neither.
 class FrmNavigation final : public Form {

@@ -1,10 +1,8 @@
 #include "lessons/naviIndex.h"
 
 #include <filesystem>
-#include <optional>
 #include <vector>
 
-#include "state/state.h"
 #include "text/shortText.h"
 #include "text/textFile.h"
 
@@ -12,15 +10,10 @@ namespace zelvs {
 
 namespace {
 
-constexpr std::size_t kFields = 3;  // file name, title, note
-
 Flag isLesson(const std::string& fileName) {
   std::error_code error;
   return std::filesystem::is_regular_file(naviPath(fileName), error) ? kTrue : kFalse;
 }
-
-/// The list shows every entry: more than these nobody has written by hand, or could look through.
-constexpr std::size_t kMostEntries = 10000;
 
 [[noreturn]] void refuse(const std::string& path, const std::string& why) {
   runTimeError(shortPath(path) + why);
@@ -34,10 +27,22 @@ constexpr std::size_t kMostEntries = 10000;
 
 }  // namespace
 
+std::string lessonsFolder() {
+  return programFolder + "/NaviData/";
+}
+
+std::optional<NaviRecord> naviRecordOf(const std::string& line) {
+  constexpr std::size_t kFields = 3;  // file name, title, note
+  const std::vector<std::string> fields = fieldsOf(line, kFields);
+  if (fields.size() < kFields) return std::nullopt;
+  return NaviRecord{fields[0], fields[1], fields[2], kFalse};
+}
+
 void readNaviIndex() {
-  naviDataPath = programFolder + "/NaviData/";
+  naviDataPath = lessonsFolder();
   naviIndex.clear();
-  const std::string path = naviPath("NaviIndex.txt");
+  const std::string path = naviPath(kIndexOfLessons);
+  const Deed deed("reading the list of lessons", path);
   std::string refusal;
   const std::optional<std::vector<std::string>> lines = readTextFile(path, &refusal);
   if (!refusal.empty()) refuse(path, " cannot be read: " + refusal);
@@ -45,12 +50,13 @@ void readNaviIndex() {
   for (std::size_t i = 0; i < lines->size(); ++i) {
     const std::string& line = (*lines)[i];
     if (line.starts_with(';')) continue;
-    const std::vector<std::string> fields = fieldsOf(line, kFields);
-    if (fields.size() < kFields) refuseLine(path, i + 1, line);
-    if (naviIndex.size() == kMostEntries) {
-      refuse(path, " has more than " + std::to_string(kMostEntries) + " entries at line " + std::to_string(i + 1));
+    std::optional<NaviRecord> record = naviRecordOf(line);
+    if (!record) refuseLine(path, i + 1, line);
+    if (naviIndex.size() == kMostLessons) {
+      refuse(path, " has more than " + std::to_string(kMostLessons) + " entries at line " + std::to_string(i + 1));
     }
-    naviIndex.push_back({fields[0], fields[1], fields[2], isLesson(fields[0])});
+    record->exists = isLesson(record->fileName);
+    naviIndex.push_back(std::move(*record));
   }
 }
 

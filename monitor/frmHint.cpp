@@ -6,6 +6,7 @@
 #include "state/state.h"
 #include "text/textFile.h"
 #include "ui/platform.h"
+#include "ui/runTimeError.h"
 
 namespace zelvs {
 
@@ -17,7 +18,7 @@ constexpr double kTabHeight = 360;
 constexpr double kEmptyWidth = 7200;
 constexpr double kEmptyHeight = 4500;
 /// Nobody finds a tab among more, and no desktop has room for them.
-constexpr int kMostHints = 1000;
+constexpr std::size_t kMostHints = 1000;
 
 }  // namespace
 
@@ -46,18 +47,33 @@ void FrmHint::load() {
   tabHint.onClick = [this] { picHint.Picture = ilsHint.image(tabHint.Tab + 1); };
 }
 
+std::string hintsFolder() {
+  return programFolder + "/HintData/";
+}
+
+std::optional<std::vector<HintRecord>> readHintList() {
+  const std::optional<std::vector<std::string>> lines = readTextFile(fileIn(hintsFolder(), kListOfHints));
+  if (!lines) return std::nullopt;
+  std::vector<HintRecord> records;
+  for (const std::string& line : *lines) {
+    if (line.starts_with(';')) continue;
+    if (records.size() == kMostHints) break;
+    const std::vector<std::string> fields = fieldsOf(line, 3);  // picture, caption, and what is ignored
+    records.push_back({fields[0], fields.size() > 1 ? std::optional(fields[1]) : std::nullopt});
+  }
+  return records;
+}
+
 void FrmHint::initHint() {
-  hintDir = programFolder + "/HintData/";
+  hintDir = hintsFolder();
+  const Deed deed("reading the hints in", hintDir);
   tabHint.Tabs = 1;
   ilsHint.clear();
   int count = 0;
-  for (const std::string& line : readTextFile(hintDir + "RegsterHint.TXT").value_or(std::vector<std::string>())) {
-    if (line.starts_with(';')) continue;
-    if (count == kMostHints) break;
+  for (const HintRecord& hint : readHintList().value_or(std::vector<HintRecord>())) {
     tabHint.Tabs = ++count;
-    const std::vector<std::string> fields = fieldsOf(line, 3);  // picture, caption, and what is ignored
-    if (fields.size() > 1) tabHint.setTabCaption(count - 1, fields[1]);
-    const Picture picture = loadPictureIfThere(fileIn(hintDir, fields[0]));
+    if (hint.caption) tabHint.setTabCaption(count - 1, *hint.caption);
+    const Picture picture = loadPictureIfThere(fileIn(hintDir, hint.fileName));
     if (!picture.none()) ilsHint.add(picture);
   }
   if (ilsHint.count() > 0) picHint.Picture = ilsHint.image(1);

@@ -1,13 +1,27 @@
 #pragma once
 
+#include <optional>
 #include <string>
 #include <string_view>
+#include <vector>
 
 #include "ui/controls.h"
 #include "ui/form.h"
 #include "ui/picture.h"
 
 namespace zelvs {
+
+/// An entry of the list of hints.
+struct HintRecord {
+  std::string fileName;  ///< of the picture, in hintsFolder()
+  std::optional<std::string> caption;
+};
+
+/// The hints' folder, with its last separator, below programFolder.
+std::string hintsFolder();
+inline constexpr std::string_view kListOfHints = "RegsterHint.TXT";
+/// The list of hints without its comments; nothing when it cannot be read.
+std::optional<std::vector<HintRecord>> readHintList();
 
 /// The tab, from 0, that must hold the hint on the control words: the memory window turns to it by number.
 inline constexpr int kControlWordTab = 6;

@@ -1,9 +1,17 @@
 #pragma once
 
+#include <string>
+#include <vector>
+
 #include "ui/controls.h"
 #include "ui/form.h"
 
 namespace zelvs {
+
+/// The schematics' folder, with its last separator, below programFolder.
+std::string schematicsFolder();
+/// The names of all pictures there that some board with some settings shows.
+std::vector<std::string> schematicFiles();
 
 /// The schematic of a board, chosen by the board's present settings. Boards by index of picBoard, 0 to 6.
 class FrmKAIROZU final : public Form {

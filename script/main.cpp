@@ -1,19 +1,24 @@
 // zelvs-script: the whole simulator with its user taken from a text.
 
+#include <unistd.h>
+
 #include <cstdio>
 #include <filesystem>
-#include <fstream>
-#include <iostream>
-#include <memory>
+#include <istream>
+#include <ostream>
 #include <string>
 
+#include "script/channel.h"
 #include "script/scriptRunner.h"
 #include "shell/ownFolder.h"
 #include "shell/startUp.h"
+#include "shell/writeSignals.h"
 #include "state/state.h"
+#include "text/shortText.h"
 #include "ui/desk.h"
 #include "ui/headless/headlessHands.h"
 #include "ui/platform.h"
+#include "ui/runTimeError.h"
 #ifdef ZELVS_DESKTOP
 #include "ui/qt/desktopScript.h"
 #endif
@@ -42,7 +47,8 @@ std::string readOptions(int argc, char** argv, Options& options) {
     } else if (word == "--folder") {
       if (++i == argc) return "--folder needs a folder";
       options.folder = argv[i];
-      if (!std::filesystem::is_directory(options.folder)) return "no such folder: " + options.folder;
+      std::error_code error;
+      if (!std::filesystem::is_directory(options.folder, error)) return "no such folder: " + options.folder;
     } else if (word.starts_with("-")) {
       return "unknown option: " + word;
     } else if (haveFile) {
@@ -58,24 +64,25 @@ std::string readOptions(int argc, char** argv, Options& options) {
   return {};
 }
 
-/// The result is empty, or why the file cannot be read.
-std::string openScript(const std::string& name, std::ifstream& file) {
-  // A folder opens like a file and then reads as empty: a script that would pass without one command. A pipe is fine:
-  // another program may be writing the script.
-  std::error_code error;
-  if (!std::filesystem::is_directory(name, error)) file.open(name);
-  return file.is_open() ? std::string() : "cannot read " + name;
+/// The standard output. It lives to the end: a run-time error may have to be told at any time.
+std::ostream& output() {
+  static zelvs::Channel channel(STDOUT_FILENO, "the standard output");
+  static std::ostream stream(&channel);
+  return stream;
 }
 
 void tellFatal(const std::string& text) {
-  std::cout << "fatal: " << text << std::endl;
+  output() << "fatal: " << text << std::endl;
+  for (const std::string& words : zelvs::deedWords())
+    std::fprintf(stderr, "zelvs-script: %s\n", words.c_str());
 }
 
-int runScript(std::istream& commands, zelvs::ScriptedPlatform& platform, zelvs::Hands& hands, bool prompt) {
-  zelvs::ScriptRunner runner(commands, std::cout, platform, hands, prompt);
+int runScript(zelvs::Channel& script, zelvs::ScriptedPlatform& platform, zelvs::Hands& hands, bool prompt) {
+  std::istream commands(&script);
+  commands.tie(&output());  // whoever types or writes the next line sees first what the last one has done
+  zelvs::ScriptRunner runner(commands, output(), platform, hands, prompt);
   zelvs::startUp();
   const int status = runner.run();
-  std::cout.flush();
   zelvs::desk().clear();
   return status;
 }
@@ -83,26 +90,27 @@ int runScript(std::istream& commands, zelvs::ScriptedPlatform& platform, zelvs::
 }  // namespace
 
 int main(int argc, char** argv) {
+  zelvs::ignoreWriteSignals();
   Options options;
   std::string wrong = readOptions(argc, argv, options);
-  std::ifstream file;
-  if (wrong.empty() && !options.file.empty()) wrong = openScript(options.file, file);
+  zelvs::Channel script(STDIN_FILENO, "the standard input");
+  if (wrong.empty() && !options.file.empty()) wrong = script.open(options.file);
   if (!wrong.empty()) {
-    std::fprintf(stderr, "zelvs-script: %s\n%s", wrong.c_str(), kUsage);
+    const std::string told = zelvs::shortened(wrong, zelvs::kLongestTold);
+    std::fprintf(stderr, "zelvs-script: %s\n%s", told.c_str(), kUsage);
     return kWrongCommandLine;
   }
-  std::istream& commands = options.file.empty() ? std::cin : file;
   zelvs::setRunTimeErrorTeller(tellFatal);
   zelvs::programFolder = options.folder.empty() ? zelvs::ownFolder(argv[0]) : options.folder;
 
 #ifdef ZELVS_DESKTOP
   if (options.desktop) {
     zelvs::DesktopScript desktop(argc, argv);
-    return runScript(commands, desktop.platform(), desktop.hands(), options.prompt);
+    return runScript(script, desktop.platform(), desktop.hands(), options.prompt);
   }
 #endif
   zelvs::HeadlessPlatform platform;
   zelvs::setPlatform(&platform);
   zelvs::HeadlessHands hands;
-  return runScript(commands, platform, hands, options.prompt);
+  return runScript(script, platform, hands, options.prompt);
 }

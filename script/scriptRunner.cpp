@@ -1,10 +1,12 @@
 #include "script/scriptRunner.h"
 
 #include <cstdlib>
-#include <iostream>
+#include <istream>
+#include <ostream>
 
 #include "script/commands.h"
 #include "ui/desk.h"
+#include "ui/runTimeError.h"
 
 namespace zelvs {
 
@@ -30,32 +32,54 @@ bool ScriptRunner::runNext() {
   if (desk().ended()) return false;
   if (prompt_) conversation_.out << ">" << std::endl;
   std::string line;
-  if (!std::getline(in_, line)) return false;
-  constexpr std::string_view kByteOrderMark = "\xEF\xBB\xBF";
-  if (line.starts_with(kByteOrderMark)) line.erase(0, kByteOrderMark.size());
-  runLine(line);
+  bool tooLong = false;
+  if (!readLine(line, tooLong)) return false;
+  if (tooLong) {
+    refuse("line " + std::to_string(lines_) + " is longer than " + std::to_string(kLongestLine) + " bytes");
+  } else {
+    runLine(line);
+  }
   if (prompt_) conversation_.out.flush();
-  return true;
+  return conversation_.out.good();  // nobody hears what comes
+}
+
+bool ScriptRunner::readLine(std::string& line, bool& tooLong) {
+  constexpr int kEnd = std::istream::traits_type::eof();
+  int byte = in_.get();
+  if (byte == kEnd) return false;
+  for (; byte != kEnd && byte != '\n'; byte = in_.get()) {
+    tooLong = line.size() == kLongestLine;
+    if (!tooLong) line += static_cast<char>(byte);
+  }
+  ++lines_;
+  return !in_.bad();  // the first half of a command may be another one
 }
 
 void ScriptRunner::runLine(const std::string& line) {
-  const auto words = wordsOf(line);
+  constexpr std::string_view kByteOrderMark = "\xEF\xBB\xBF";
+  const std::string place = std::to_string(lines_) + ": " + line;
+  const Deed deed("carrying out line", place);
+  const bool marked = line.starts_with(kByteOrderMark);
+  const auto words = wordsOf(std::string_view(line).substr(marked ? kByteOrderMark.size() : 0));
   if (words && words->empty()) return;
   const std::string why = words ? carryOut(conversation_, *words) : "a quotation is left open";
   if (!why.empty()) {
-    conversation_.out << "error: " << why << '\n';
-    ++conversation_.refusals;
-    conversation_.lastRefused = true;
+    refuse(why);
   } else if (words->front() != "expect") {
     // What an opener of a modal window was refused was told before the commands inside it: nothing to keep here.
     conversation_.lastRefused = false;
   }
 }
 
+void ScriptRunner::refuse(const std::string& why) {
+  conversation_.out << "error: " << why << '\n';
+  ++conversation_.refusals;
+  conversation_.lastRefused = true;
+}
+
 void ScriptRunner::runInside() {
   if (runNext()) return;
   // The input ended inside a modal window: what opened it will never go on.
-  conversation_.out.flush();
   std::_Exit(status());
 }
 
@@ -69,7 +93,8 @@ bool ScriptRunner::answered(const MessageBox& box) {
   return ok;
 }
 
-int ScriptRunner::status() const {
+int ScriptRunner::status() {
+  if (in_.bad() || !conversation_.out.flush()) return kBrokenOffStatus;
   return conversation_.refusals + conversation_.failures > 0 ? 1 : 0;
 }
 

@@ -65,6 +65,10 @@ void askToClose() {
 
 }  // namespace
 
+std::string_view programVersion() {
+  return ZELVS_VERSION;
+}
+
 FrmVersion::FrmVersion() : Form("frmVersion", kKind, Border::None) {
   Caption = "ZEL-VS";
   setTopmost();  // from the start, so that no window has to be made a second time

@@ -1,10 +1,15 @@
 #pragma once
 
+#include <string_view>
+
 #include "ui/controls.h"
 #include "ui/form.h"
 #include "ui/timer.h"
 
 namespace zelvs {
+
+/// Its digits, as the splash shows them.
+std::string_view programVersion();
 
 /// The splash during start-up, the about window afterwards.
 class FrmVersion final : public Form {

@@ -7,7 +7,9 @@
 #include <optional>
 #include <utility>
 
+#include "bench/pinModes.h"
 #include "bench/settingKeys.h"
+#include "bench/settingLists.h"
 #include "files/readFile.h"
 #include "files/writeFile.h"
 #include "state/state.h"
@@ -89,13 +91,24 @@ std::optional<std::string> decoded(const std::string& bytes) {
 
 }  // namespace
 
+std::optional<Profile> Profile::read(const std::string& path, std::string& refusal) {
+  const std::optional<std::string> bytes = readFile(path, &refusal, kLargestIniFile);
+  if (!bytes) return std::nullopt;
+  std::optional<std::string> text = decoded(*bytes);
+  if (!text) {
+    refusal = "it begins as UTF-16 and is none";
+    return std::nullopt;
+  }
+  Profile profile;
+  profile.text_ = std::move(*text);
+  return profile;
+}
+
 Profile::Profile(const std::string& path) {
   std::string refusal;
-  const std::optional<std::string> bytes = readFile(path, &refusal, kLargestIniFile);
-  std::optional<std::string> text = decoded(bytes.value_or(""));
-  if (!text) refusal = "it begins as UTF-16 and is none";
+  std::optional<Profile> profile = read(path, refusal);
   if (!refusal.empty()) runTimeError(shortPath(path) + " cannot be read: " + refusal);
-  text_ = std::move(*text);
+  if (profile) text_ = std::move(profile->text_);
 }
 
 std::vector<std::optional<std::string>> Profile::values(std::string_view section,
@@ -207,27 +220,28 @@ void writeIniValue(std::string_view section, std::string_view key, std::string_v
 }
 
 std::span<const Setting> settings() {
+  constexpr int kFlag = 2;
   static const std::array<Setting, 20> table = {{
-      {kCablesKey, &cableConnection, 1},
-      {kMemoryClearKey, &memoryClear, 1},
-      {kCpuTypeKey, &cpuType, 0},
-      {kTransferKey, &transferSetting[0], 0},
-      {kAddressKeys[0], &saSetting[0], 0},
-      {kAddressKeys[1], &saSetting[1], 2},
-      {kAddressKeys[2], &saSetting[2], 4},
-      {kClockKeys[0], &clockSetting[0], 0},
-      {kClockKeys[1], &clockSetting[1], 0},
-      {kClockKeys[2], &clockSetting[2], 0},
-      {kClockKeys[3], &clockSetting[3], 0},
-      {kCascadeKeys[0], &cascadeSetting[1], 1},
-      {kCascadeKeys[1], &cascadeSetting[2], 1},
-      {kIoModeKey, &ioBoardMode, 5},
-      {kCounterModeKey, &ioBoardCounterMode, 0},
-      {kOpenWindowKeys[0], &openWindow[1], 1},
-      {kOpenWindowKeys[1], &openWindow[2], 1},
-      {kOpenWindowKeys[2], &openWindow[3], 1},
-      {kOpenWindowKeys[3], &openWindow[4], 0},
-      {kOpenWindowKeys[4], &openWindow[5], 0},
+      {kCablesKey, &cableConnection, 1, kFlag},
+      {kMemoryClearKey, &memoryClear, 1, kFlag},
+      {kCpuTypeKey, &cpuType, 0, std::ssize(kCpuTypes)},
+      {kTransferKey, &transferSetting[0], 0, kFlag},
+      {kAddressKeys[0], &saSetting[0], 0, kStations},
+      {kAddressKeys[1], &saSetting[1], 2, kStations},
+      {kAddressKeys[2], &saSetting[2], 4, kStations},
+      {kClockKeys[0], &clockSetting[0], 0, std::ssize(kClocks)},
+      {kClockKeys[1], &clockSetting[1], 0, std::ssize(kClocks)},
+      {kClockKeys[2], &clockSetting[2], 0, std::ssize(kClocks)},
+      {kClockKeys[3], &clockSetting[3], 0, std::ssize(kClocks)},
+      {kCascadeKeys[0], &cascadeSetting[1], 1, kFlag},
+      {kCascadeKeys[1], &cascadeSetting[2], 1, kFlag},
+      {kIoModeKey, &ioBoardMode, 5, std::ssize(kIoModes)},
+      {kCounterModeKey, &ioBoardCounterMode, 0, std::ssize(kCounterModes)},
+      {kOpenWindowKeys[0], &openWindow[1], 1, kFlag},
+      {kOpenWindowKeys[1], &openWindow[2], 1, kFlag},
+      {kOpenWindowKeys[2], &openWindow[3], 1, kFlag},
+      {kOpenWindowKeys[3], &openWindow[4], 0, kFlag},
+      {kOpenWindowKeys[4], &openWindow[5], 0, kFlag},
   }};
   return table;
 }
@@ -236,8 +250,13 @@ void copyTransferSetting() {
   std::fill(transferSetting.begin() + 1, transferSetting.end(), transferSetting[0]);
 }
 
+std::string iniPath() {
+  return programFolder + "/ZELVS.INI";
+}
+
 void readIniFile() {
-  iniFilePath = programFolder + "/ZELVS.INI";
+  iniFilePath = iniPath();
+  const Deed deed("reading the settings", iniFilePath);
   std::vector<std::string_view> keys;
   for (const Setting& setting : settings())
     keys.push_back(setting.key);

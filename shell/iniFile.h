@@ -22,6 +22,9 @@ inline constexpr std::size_t kLargestIniFile = 128 << 20;
 class Profile {
  public:
   explicit Profile(const std::string& path);
+  /// The same without an end of the program: nothing, and why, where the file cannot be read, with nothing to tell
+  /// where there is none.
+  static std::optional<Profile> read(const std::string& path, std::string& refusal);
 
   /// The values of keys, in their order, each without the blanks and one pair of quotation marks around it and at
   /// most 255 bytes long; nothing for a key that is not there.
@@ -29,7 +32,9 @@ class Profile {
                                                  const std::vector<std::string_view>& keys) const;
 
  private:
-  std::string text_;
+  Profile() = default;
+
+  std::string text_;  // in UTF-8, or as it stands
 };
 
 /// The leading number of a key's value in iniFilePath, as text ("12 apples" gives "12", "x" gives "0"), or the empty
@@ -57,12 +62,15 @@ struct Setting {
   std::string_view key;
   std::int16_t* variable;
   std::int16_t makerValue;
+  int values;  ///< how many make sense, from 0; nobody asks when the file is read
 };
 /// All settings, in the order of reading. transferSetting has copies of its first entry behind it.
 std::span<const Setting> settings();
 /// Carries transferSetting[0] over to its copies.
 void copyTransferSetting();
 
+/// Where the settings of programFolder are kept.
+std::string iniPath();
 /// Builds iniFilePath and fills all settings from the file. What is missing reads as 0.
 void readIniFile();
 /// Puts the maker's values straight into the settings.

@@ -6,8 +6,9 @@ namespace zelvs {
 
 std::string ownFolder(const char* program) {
   std::error_code error;
-  const std::filesystem::path self = std::filesystem::read_symlink("/proc/self/exe", error);
-  return (error ? std::filesystem::absolute(program) : self).parent_path().string();
+  std::filesystem::path self = std::filesystem::read_symlink("/proc/self/exe", error);
+  if (error) self = std::filesystem::absolute(program, error);
+  return self.parent_path().string();
 }
 
 }  // namespace zelvs

@@ -17,11 +17,13 @@
 #include "shell/startUp.h"
 #include "state/state.h"
 #include "ui/desk.h"
+#include "ui/runTimeError.h"
 
 namespace zelvs {
 
 void restartSimulator() {
   const Desk::Event event;
+  const Deed deed("restarting");
   runMode = kRestarting;  // no tick does anything until RUN is selected again
   startupDone = kFalse;
   for (FormPlace* window :

@@ -23,6 +23,7 @@
 #include "text/utf8.h"
 #include "ui/desk.h"
 #include "ui/platform.h"
+#include "ui/runTimeError.h"
 
 namespace zelvs {
 
@@ -53,6 +54,7 @@ void attachFromAbove() {
 
 void startUp() {
   const Desk::Event event;
+  const Deed deed("starting up");
   attachFromAbove();
   readIniFile();
   openBeepDevice();  // the first touch of the panel, which loads here with its frame and takes the settings

@@ -20,6 +20,7 @@ shift 4
 folder=$(mktemp -d)
 texts=$(mktemp -d)
 trap 'rm -rf "$folder" "$texts"' EXIT
+trap 'exit 1' HUP INT TERM
 # The pictures are large: a link to each will do.
 cp -Rs "$shipped/." "$folder"
 rm -f "$folder/zelvs" "$folder/zelvs-script" "$folder/ZELVS.INI"

@@ -181,6 +181,7 @@ void Desk::focus(Control* control) {
     before->markChanged();
     markDefaultButton(before->form());
     if (before->onLostFocus) {
+      const Deed deed("leaving", *before);
       leaving_.push_back(before);
       before->onLostFocus();
       leaving_.pop_back();

@@ -6,6 +6,7 @@
 
 #include "ui/controls.h"
 #include "ui/form.h"
+#include "ui/runTimeError.h"
 #include "ui/textExtent.h"
 
 namespace zelvs {
@@ -173,6 +174,7 @@ void drawAll(Painter& painter, const std::vector<Control*>& siblings, const Area
 
 void drawForm(Painter& painter, const Form& form, std::span<const Area> dirty) {
   if (dirty.empty()) return;
+  const Deed deed("drawing", form);
   Dirty all{dirty, dirty.front()};
   for (const Area& place : dirty) {
     all.bounds = all.bounds.united(place);

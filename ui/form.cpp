@@ -276,6 +276,7 @@ FormPlace* FormPlace::named(std::string_view name) {
 void FormPlace::load() {
   if (loaded()) return;
   const Desk::Event event;
+  const Deed deed("loading the window", name_);
   if (kind_ == FormKind::Child) {
     // A child brings its frame with it.
     for (FormPlace* place : all()) {

@@ -7,6 +7,7 @@
 #include "ui/desk.h"
 #include "ui/form.h"
 #include "ui/listRows.h"
+#include "ui/runTimeError.h"
 #include "ui/textExtent.h"
 
 namespace zelvs::gesture {
@@ -15,6 +16,12 @@ namespace {
 
 void call(const std::function<void()>& handler) {
   if (handler) handler();
+}
+
+void letUp(const Control* control) {
+  if (control == nullptr) return;
+  const Deed deed("releasing", *control);
+  call(control->onMouseUp);
 }
 
 int caretInTheMiddle(const TextBox& text) {
@@ -63,6 +70,7 @@ std::string turnTo(Form& form, Control* control) {
 }
 
 void pressed(Form& form, Control* control) {
+  const Deed deed("pressing", form, control);
   desk().pressed = {&form, control};
   if (control != nullptr) call(control->onMouseDown);
 }
@@ -72,13 +80,14 @@ void pressedAgain(Form& form, Control* control) {
     pressed(form, control);
     return;
   }
+  const Deed deed("double-clicking", *control);
   desk().pressed = {};
   control->onDblClick();
 }
 
 void letGo(const Control* control) {
   desk().pressed = {};
-  if (control != nullptr) call(control->onMouseUp);
+  letUp(control);
 }
 
 bool actsOnDoubleClick(const Control* control) {
@@ -86,6 +95,7 @@ bool actsOnDoubleClick(const Control* control) {
 }
 
 void clicked(Form& form, Control* control) {
+  const Deed deed("clicking", form, control);
   if (control == nullptr) {
     form.click();
     return;
@@ -123,7 +133,7 @@ std::string release(Form& form, Control* control, bool inside) {
   std::string why = refusal(form, control);
   const bool held = std::exchange(desk().pressed, {}) == Hand::Target{&form, control};
   if (!why.empty()) return why;
-  if (control != nullptr) call(control->onMouseUp);
+  letUp(control);
   if (held && inside) clicked(form, control);
   return {};
 }
@@ -137,6 +147,7 @@ std::string pressAgain(Form& form, Control* control) {
 
 std::string move(Form& form, Control* control) {
   const Desk::Event event;
+  const Deed deed("moving over", form, control);
   std::string why = refusal(form, control);
   if (why.empty() && control != nullptr) call(control->onMouseMove);
   return why;
@@ -166,6 +177,7 @@ std::string doubleClick(Form& form, Control* control, bool lastRelease) {
 
 std::string pick(Control& control, int row) {
   const Desk::Event event;
+  const Deed deed("picking a row of", control);
   std::string why = refusal(control.form(), &control);
   if (!why.empty()) return why;
   if (row < 0 || row >= rowCountOf(control)) return control.fullName() + " has no row " + std::to_string(row);
@@ -176,6 +188,7 @@ std::string pick(Control& control, int row) {
 
 std::string placeCaret(TextBox& text, int start, int length) {
   const Desk::Event event;
+  const Deed deed("clicking into", text);
   std::string why = turnTo(text.form(), &text);
   if (!why.empty()) return why;
   const int last = static_cast<int>(charactersOf(text.Text.get()).size());
@@ -194,6 +207,7 @@ std::string focus(Control& control) {
 
 std::string close(Form& form) {
   const Desk::Event event;
+  const Deed deed("closing", form);
   std::string why = turnTo(form, nullptr);
   if (!why.empty()) return why;
   if (!form.hasCloseBox()) return form.name() + " has no close box";

@@ -8,6 +8,7 @@
 #include "ui/form.h"
 #include "ui/gesture.h"
 #include "ui/listRows.h"
+#include "ui/runTimeError.h"
 #include "ui/tabOrder.h"
 #include "ui/textEditing.h"
 
@@ -115,6 +116,7 @@ bool keyOfWindow(Control& control, int code) {
 }
 
 void keyForControl(Control& control, int code, char32_t character) {
+  const Deed deed("taking a key in", control);
   if (control.onKeyDown) control.onKeyDown(code);
   if (code == 0 || !control.form().visible() || keyOfWindow(control, code)) return;
   keyInControl(control, code, character);

@@ -4,6 +4,7 @@
 
 #include "ui/desk.h"
 #include "ui/platform.h"
+#include "ui/runTimeError.h"
 
 namespace zelvs {
 
@@ -58,6 +59,7 @@ bool TimerQueue::fireNext(std::int64_t now) {
   // A handler that waited in a modal window is late: its timer catches up once and does not fire in a storm.
   timer->due_ = std::max(timer->due_ + timer->Interval, now);
   const Desk::Event event;
+  const Deed deed("running the timer", *timer);
   timer->firing_ = true;
   if (timer->onTimer) timer->onTimer();
   timer->firing_ = false;

@@ -8,6 +8,7 @@ generator=$3
 
 work=$(mktemp -d)
 trap 'rm -rf "$work"' EXIT
+trap 'exit 1' HUP INT TERM
 fail() { cat "$work/output"; echo "$1"; exit 1; }
 configure() {
   cmake -S "$sources" -B "$work/build" -G "$generator" -DZELVS_DESKTOP=OFF -DZELVS_TESTS=OFF -DZELVS_DATA="$1"

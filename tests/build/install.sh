@@ -7,6 +7,7 @@ shift 2
 
 prefix=$(mktemp -d)
 trap 'rm -rf "$prefix"' EXIT
+trap 'exit 1' HUP INT TERM
 fail() { echo "$1"; exit 1; }
 install() { cmake --install "$build" --prefix "$prefix" > "$prefix/output" 2>&1 || { cat "$prefix/output"; exit 1; }; }
 # run OPTION...: a script from the standard input, by the name that a user types

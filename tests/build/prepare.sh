@@ -8,6 +8,7 @@ root=$1
 
 work=$(mktemp -d)
 trap 'rm -rf "$work"' EXIT
+trap 'exit 1' HUP INT TERM
 fail() { cat "$work/output"; echo "$1"; exit 1; }
 stand_in() { printf '#!/bin/sh\n%s\n' "$2" > "$work/bin/$1"; chmod +x "$work/bin/$1"; }
 mkdir "$work/bin"

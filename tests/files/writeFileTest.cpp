@@ -451,6 +451,23 @@ TEST_F(WriteFileTest, AFullDiskLeavesTheOldFile) {
   EXPECT_EQ(folder.read("alone"), kOld);
 }
 
+TEST_F(WriteFileTest, AFileThatShallBeNewTouchesNothingThatIsThere) {
+  folder.write("file", kOld);
+  fs::create_symlink("elsewhere", path("link"));
+  EXPECT_EQ(writeNewFile(path(), kNew), std::errc::file_exists);
+  EXPECT_EQ(writeNewFile(path("link"), kNew), std::errc::file_exists);
+  EXPECT_EQ(folder.read("file"), kOld);
+  EXPECT_FALSE(fs::exists(path("elsewhere")));
+  EXPECT_FALSE(writeNewFile(path("new"), kNew));
+  EXPECT_EQ(folder.read("new"), kNew);
+  FaultyFiles files;
+  files.only = "write";
+  files.at = 1;
+  files.error = std::errc::no_space_on_device;
+  EXPECT_EQ(writeNewFile(path("full"), kNew), std::errc::no_space_on_device);
+  EXPECT_EQ(names(), (std::set{"file"s, "link"s, "new"s}));
+}
+
 // ---- Other copies
 
 TEST_F(WriteFileTest, CopiesThatWriteAtTheSameTimeLoseNothing) {

@@ -169,7 +169,7 @@ TEST_F(NavigationTest, AnErrorOfTheIndexIsShortWhateverTheLineAndTheFolderAre) {
   folder.write(list, std::string(60000, 'y') + "\r\n");
   EXPECT_LE(lengthOfError(readNaviIndex,
                           "/NaviData/NaviIndex.txt, line 1: no file name, title and note with a TAB "
-                          "between: \"yyyyyyyyyyyyy…yyyyyyyyyyyyyyyyyyyyyyyyyy\""),
+                          "between: \"yyyyyyyyyyyyyyyyyyyy…yyyyyyyyyyyyyyyyyyy\""),
             kMost);
   folder.write(list, "a\tb\tc\r\n" + std::string(65537, 'y'));
   EXPECT_LE(lengthOfError(readNaviIndex, "/NaviIndex.txt cannot be read: line 2 is longer than 65536 bytes"), kMost);

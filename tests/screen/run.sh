@@ -26,6 +26,7 @@ finish() {
   manager=
 }
 trap finish EXIT
+trap 'exit 1' HUP INT TERM
 
 # Waits until the command succeeds. usage: await WHAT COMMAND...
 await() {

@@ -1,5 +1,8 @@
 // Lines, the prompt, refusals and what holds the user.
 
+#include <ios>
+#include <streambuf>
+
 #include "support/scriptFixture.h"
 
 namespace zelvs {
@@ -20,6 +23,69 @@ TEST_F(ScriptRunnerTest, QuotesAndEscapes) {
   EXPECT_EXCHANGES(1, {"echo \"open", "error: a quotation is left open\n"},
                    {"echo \"open\\\"", "error: a quotation is left open\n"},
                    {"\"", "error: a quotation is left open\n"});
+}
+
+TEST_F(ScriptRunnerTest, ALineHasALongestLength) {
+  const std::string longest = "echo " + std::string(kLongestLine - 5, 'x');
+  EXPECT_EQ(run(longest), longest.substr(5) + "\n");
+  EXPECT_EQ(run(longest + "\nnow\n"), longest.substr(5) + "\nnow = 0\n");
+  EXPECT_EQ(status, 0);
+  // A longer one is refused whole: what its first part would do is not done.
+  const std::string refused = "error: line 3 is longer than 65536 bytes\n";
+  EXPECT_EQ(run("now\n\n" + longest + "x\nnow\n"), "now = 0\n" + refused + "now = 0\n");
+  EXPECT_EQ(status, 1);
+  EXPECT_EQ(run("now\n\n" + longest + "x"), "now = 0\n" + refused);
+  EXPECT_EQ(run("\n\n#" + std::string(1 << 20, 'x') + "\nexpect error\n"), refused + "ok\n");
+  EXPECT_EQ(status, 0);
+}
+
+/// Bytes, and behind them an error in place of an end.
+class BrokenSource : public std::streambuf {
+ public:
+  explicit BrokenSource(std::string bytes) : bytes_(std::move(bytes)) {
+    setg(bytes_.data(), bytes_.data(), bytes_.data() + bytes_.size());
+  }
+
+ protected:
+  int_type underflow() override { throw std::ios_base::failure("broken"); }
+
+ private:
+  std::string bytes_;
+};
+
+TEST_F(ScriptRunnerTest, AScriptThatCannotBeReadToItsEndIsBrokenOff) {
+  const std::pair<std::string, std::string> table[] = {
+      {"", ""},
+      {"echo a\n", "a\n"},
+      {"echo a\necho b", "a\n"},  // who knows how it would have gone on
+      {"expect runMode 1\n", "FAILED runMode: expected 1, is 0\n"},
+  };
+  for (const auto& [commands, printed] : table) {
+    BrokenSource source(commands);
+    std::istream in(&source);
+    std::ostringstream out;
+    HeadlessHands hands;
+    EXPECT_EQ(ScriptRunner(in, out, platform, hands, false).run(), kBrokenOffStatus) << commands;
+    EXPECT_EQ(out.str(), printed);
+  }
+}
+
+/// Takes some bytes and then no more.
+class FullSink : public std::streambuf {
+ public:
+  FullSink() { setp(bytes_, bytes_ + sizeof bytes_); }
+
+ private:
+  char bytes_[8];
+};
+
+TEST_F(ScriptRunnerTest, AScriptWhoseAnswersNobodyTakesIsBrokenOff) {
+  FullSink sink;
+  std::ostream out(&sink);
+  std::istringstream in("now\nnow\nset beltFrame 3\n");
+  HeadlessHands hands;
+  EXPECT_EQ(ScriptRunner(in, out, platform, hands, false).run(), kBrokenOffStatus);
+  EXPECT_EQ(beltFrame, 0) << "what stands behind is not done any more";
 }
 
 TEST_F(ScriptRunnerTest, OneRefusalOrFailureAmongManyDecidesTheStatus) {

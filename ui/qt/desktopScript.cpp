@@ -1,9 +1,12 @@
 #include "ui/qt/desktopScript.h"
 
+#include <unistd.h>
+
 #include <QAbstractItemView>
 #include <QApplication>
 #include <QBuffer>
 #include <QComboBox>
+#include <QFile>
 #include <QKeyEvent>
 #include <QListWidget>
 #include <QMouseEvent>
@@ -11,10 +14,10 @@
 #include <QPixmap>
 #include <QPointer>
 #include <QTabBar>
-#include <QTemporaryFile>
 #include <QWindow>
 #include <cstdio>
 #include <optional>
+#include <utility>
 
 #include "files/writeFile.h"
 #include "ui/desk.h"
@@ -309,31 +312,64 @@ void tellButOffscreen(QtMsgType type, const QMessageLogContext& context, const Q
   std::fprintf(stderr, "%s\n", qPrintable(qFormatLogMessage(type, context, message)));
 }
 
-/// Chooses the off-screen platform where there is no display, with a screen as large as a desk usually has.
+/// A variable of the environment, which is put back in the end.
+class Variable {
+ public:
+  explicit Variable(const char* name) : name_(name) {}
+  ~Variable() {
+    if (before_.isNull()) {
+      qunsetenv(name_);
+    } else {
+      qputenv(name_, before_);
+    }
+  }
+  Variable(const Variable&) = delete;
+  Variable& operator=(const Variable&) = delete;
+
+  const QByteArray& before() const { return before_; }
+  void set(const QByteArray& value) { qputenv(name_, value); }
+
+ private:
+  const char* name_;
+  const QByteArray before_ = qgetenv(name_);
+};
+
+/// While the toolkit comes up: chooses the off-screen platform where there is no display, with a screen as large as a
+/// desk usually has. Nothing of it is ever on the disk, so nothing is left there however the program ends.
 class PlatformChoice {
  public:
   PlatformChoice() {
     const bool display = qEnvironmentVariableIsSet("DISPLAY") || qEnvironmentVariableIsSet("WAYLAND_DISPLAY");
-    const QByteArray wanted = qgetenv("QT_QPA_PLATFORM");
-    if (!(wanted == "offscreen" || (wanted.isEmpty() && !display))) return;
-    if (!screen_.open()) return;
-    screen_.write(R"({"screens": [{"name": "desk", "x": 0, "y": 0, "width": 1920, "height": 1080,
-                      "logicalDpi": 96, "logicalBaseDpi": 96, "dpr": 1}]})");
-    screen_.flush();
+    if (!(platform_.before() == "offscreen" || (platform_.before().isEmpty() && !display))) return;
     qInstallMessageHandler(tellButOffscreen);
-    qputenv("QT_QPA_PLATFORM", "offscreen:configfile=" + screen_.fileName().toUtf8());
+    // Where no session has a folder for its sockets the toolkit makes one in the temporary folder and leaves it there.
+    if (qEnvironmentVariableIsEmpty("XDG_RUNTIME_DIR")) temporaryFolder_.set("/dev/null");
+    // A screen is told by the name of a file, which a pipe has as well.
+    int ends[2];
+    if (pipe(ends) != 0) return;
+    screen_.open(ends[0], QFile::ReadOnly, QFile::AutoCloseHandle);
+    QFile told;
+    told.open(ends[1], QFile::WriteOnly, QFile::AutoCloseHandle);
+    told.write(R"({"screens": [{"name": "desk", "x": 0, "y": 0, "width": 1920, "height": 1080,
+                   "logicalDpi": 96, "logicalBaseDpi": 96, "dpr": 1}]})");
+    platform_.set("offscreen:configfile=/dev/fd/" + QByteArray::number(screen_.handle()));
   }
 
  private:
-  QTemporaryFile screen_;
+  Variable platform_{"QT_QPA_PLATFORM"};
+  Variable temporaryFolder_{"TMPDIR"};
+  QFile screen_;
 };
 
 }  // namespace
 
 struct DesktopScript::Parts {
-  Parts(int& argc, char** argv) : application(argc, argv) { setUpLook(); }
+  Parts(int& argc, char** argv) : choice(std::in_place), application(argc, argv) {
+    choice.reset();
+    setUpLook();
+  }
 
-  PlatformChoice choice;
+  std::optional<PlatformChoice> choice;
   QApplication application;
   Windows windows;
   WindowedScriptPlatform platform;

@@ -43,6 +43,11 @@ double emOf(double points) {
 
 }  // namespace
 
+const QStringList& textFamilies() {
+  static const QStringList names = {"Noto Sans Mono CJK JP", "VL Gothic", "IPAGothic", "MS Gothic"};
+  return names;
+}
+
 QFont fontOf(double points, bool bold) {
   // Looking a family up costs more than drawing a line of text: the few sizes in use are kept.
   static QHash<std::pair<double, bool>, QFont> kept;
@@ -50,7 +55,7 @@ QFont fontOf(double points, bool bold) {
   const auto found = kept.constFind({points, bold});
   if (found != kept.constEnd()) return *found;
   QFont font;
-  font.setFamilies({"Noto Sans Mono CJK JP", "VL Gothic", "IPAGothic", "MS Gothic", "Monospace"});
+  font.setFamilies(textFamilies() + QStringList{"Monospace"});
   font.setHintingPreference(QFont::PreferNoHinting);
   // Sizes are in the model's points, 96 to an inch: a screen's own density is the window system's business.
   font.setPointSizeF(emOf(points) * 72 / QGuiApplication::primaryScreen()->logicalDotsPerInchY());

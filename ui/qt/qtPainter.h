@@ -5,6 +5,7 @@
 #include <QPainter>
 #include <QRect>
 #include <QRegion>
+#include <QStringList>
 
 #include "ui/painter.h"
 
@@ -13,6 +14,8 @@ namespace zelvs {
 class Form;
 
 QColor colourOf(Colour colour);
+/// The families that texts may be drawn in, each as good as the others. Of those that are there the first is taken.
+const QStringList& textFamilies();
 /// The program's one family: ASCII half as wide as ideographs, at the size that the model counts with.
 QFont fontOf(double points, bool bold);
 QRectF pixelsOf(const Area& twips);

@@ -30,6 +30,9 @@ class QtPlatform final : public QObject, public Platform {
   void playSound() override { sound_.play(); }
   void ended() override;
 
+  /// From here on no timer of the model fires.
+  void stopClock() { yielding_ = true; }
+
   bool eventFilter(QObject* watched, QEvent* event) override;
 
  private:
