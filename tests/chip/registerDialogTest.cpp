@@ -102,7 +102,7 @@ TEST_F(RegisterDialogTest, OpensEachTimeAsNew) {
 
 TEST_F(RegisterDialogTest, TheCloseBoxIsACancel) {
   startIdle();
-  inside = [this] {
+  inside = [] {
     type(frmEditRegister->txtWriteData, "1010");
     EXPECT_EQ(gesture::close(*frmEditRegister), "");
   };
