@@ -111,6 +111,19 @@ TEST_F(RegisterDialogTest, TheCloseBoxIsACancel) {
   EXPECT_EQ(colours(3), "bbbb");
 }
 
+TEST_F(RegisterDialogTest, NeedsNoWindowBehindIt) {
+  startIdle();
+  inside = [] {
+    type(frmEditRegister->txtWriteData, "1010");
+    click(frmEditRegister->cmdAction(0));
+  };
+  frmEditRegister->editRegisterAddress = kHprLow;
+  frmEditRegister->show(ShowMode::Modal, frmMDI.get());
+  EXPECT_EQ(opened, 1);
+  EXPECT_EQ(chipMemory[kHprLow], 0x10);
+  EXPECT_EQ(chipMemory[kHprHigh], 0x10);
+}
+
 TEST_F(RegisterDialogTest, EnterSelectsTheLastDigitAndWritesNothing) {
   startIdle();
   inside = [] {
