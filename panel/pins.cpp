@@ -105,10 +105,10 @@ void setPinPattern(std::string_view pattern, bool pwm) {
 }  // namespace
 
 void setIOMode() {
-  const bool known = ioBoardMode >= 0 && ioBoardMode < static_cast<int>(kIoModes.size());
+  // There is no picture of any other mode: the program ends here.
   frmHard->picIOS.Picture = frmHard->ilsDIP3.image(ioBoardMode + 1);
   if (ioBoardMode == kCounterPwmMode) frmHard->fraCounter(4).Visible = true;
-  const IoMode& mode = kIoModes[known ? static_cast<std::size_t>(ioBoardMode) : 0];
+  const IoMode& mode = kIoModes[static_cast<std::size_t>(ioBoardMode)];
   setPinPattern(mode.pattern, mode.pwm);
   setFormWidth();
 }

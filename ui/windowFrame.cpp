@@ -30,7 +30,7 @@ bool clippedAway(const Form& form, double x, double y) {
 }  // namespace
 
 Area closeBoxOf(const Form& form) {
-  if (!form.hasCloseBox() || form.border() == Border::None) return {};
+  if (!form.hasCloseBox()) return {};
   return {form.Width - kCloseBox - kCloseMargin, kCloseMargin - kCaptionHeight, kCloseBox, kCloseBox};
 }
 

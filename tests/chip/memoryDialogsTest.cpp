@@ -2,6 +2,7 @@
 
 #include <algorithm>
 
+#include "dialogs/messages.h"
 #include "monitor/windowRefresh.h"
 #include "support/dialogFixture.h"
 
@@ -196,6 +197,28 @@ TEST_F(MemoryDialogTest, ADialogIsShiftedOntoTheScreen) {
   EXPECT_EQ(opened, 4);
 }
 
+TEST_F(MemoryDialogTest, NeedsNoWindowOfCellsBehindIt) {
+  startIdle();
+  inside = [] {
+    type(frmEditMemory->txtWriteData, "1234");
+    click(frmEditMemory->cmdAction(0));
+  };
+  frmEditMemory->editFirstRowCaption = "10x";
+  frmEditMemory->editCellIndex = static_cast<std::int16_t>(cellOf(0));
+  frmEditMemory->show(ShowMode::Modal, frmMDI.get());
+  EXPECT_EQ(opened, 1);
+  EXPECT_EQ(chipMemory[0x100], 0x34);
+  EXPECT_EQ(chipMemory[0x101], 0x12);
+}
+
+TEST_F(MemoryDialogTest, TheProgramMayUnloadWhatTheUserCanOnlyHide) {
+  startIdle();
+  frmEditMemory->txtWriteData.Text = "5678";
+  frmEditMemory->unload();
+  EXPECT_FALSE(frmEditMemory.loaded());
+  EXPECT_EQ(frmEditMemory->txtWriteData.Text.get(), "0000");
+}
+
 // ---- Reading
 
 class MemoryReadTest : public DialogTest {
@@ -297,6 +320,40 @@ TEST_F(MemoryReadTest, AWrongAddressBeepsAndReadsNothing) {
   chipMemory[kHprLow] = 0;
   frmMemoryRead->initReadMemory();
   expectRead("7FF", "5A", kFromMemory);
+}
+
+TEST_F(MemoryReadTest, AnAddressThatAScriptHasMadeTooShortIsWrongToo) {
+  startIdle(1);
+  openMemoryRead();
+  for (const char* address : {"", "7", "7F"}) {
+    SCOPED_TRACE(address);
+    const int beeps = platform.beeps();
+    frmMemoryRead->txtAddress.Text = address;
+    click(frmMemoryRead->cmdAction(0));
+    EXPECT_EQ(platform.beeps(), beeps + 1);
+    EXPECT_EQ(frmMemoryRead->lblData.Caption.get(), "??");
+  }
+}
+
+TEST_F(MemoryReadTest, OpeningItTakesThePopUpAway) {
+  startIdle(1);
+  showMessage("...");
+  ASSERT_TRUE(frmMessage.visible());
+  openMemoryRead();
+  EXPECT_FALSE(frmMessage.visible());
+}
+
+TEST_F(MemoryReadTest, WhenTheProgramUnloadsItsBufferIsGone) {
+  startIdle(1);
+  chipMemory[kHprLow] = 0x10;
+  chipMemory[0x100] = 0x34;
+  chipMemory[0x101] = 0x12;
+  openMemoryRead();
+  expectRead("100", "34", kIntoBuffer);
+  frmMemoryRead->unload();
+  EXPECT_FALSE(frmMemoryRead.loaded());
+  openMemoryRead();
+  expectRead("101", "00", kFromBuffer);
 }
 
 TEST_F(MemoryReadTest, TheBufferSurvivesHiding) {

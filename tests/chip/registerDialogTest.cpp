@@ -102,13 +102,26 @@ TEST_F(RegisterDialogTest, OpensEachTimeAsNew) {
 
 TEST_F(RegisterDialogTest, TheCloseBoxIsACancel) {
   startIdle();
-  inside = [this] {
+  inside = [] {
     type(frmEditRegister->txtWriteData, "1010");
     EXPECT_EQ(gesture::close(*frmEditRegister), "");
   };
   doubleClick(frmRegister->lblValL(3));
   EXPECT_EQ(chipMemory[kHprLow], 0);
   EXPECT_EQ(colours(3), "bbbb");
+}
+
+TEST_F(RegisterDialogTest, NeedsNoWindowBehindIt) {
+  startIdle();
+  inside = [] {
+    type(frmEditRegister->txtWriteData, "1010");
+    click(frmEditRegister->cmdAction(0));
+  };
+  frmEditRegister->editRegisterAddress = kHprLow;
+  frmEditRegister->show(ShowMode::Modal, frmMDI.get());
+  EXPECT_EQ(opened, 1);
+  EXPECT_EQ(chipMemory[kHprLow], 0x10);
+  EXPECT_EQ(chipMemory[kHprHigh], 0x10);
 }
 
 TEST_F(RegisterDialogTest, EnterSelectsTheLastDigitAndWritesNothing) {

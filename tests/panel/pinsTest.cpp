@@ -160,8 +160,10 @@ TEST_F(PinsTest, AModeChangeTurnsSwitchesOffAndKeepsAHiddenPinsTag) {
 TEST_F(PinsTest, AModeBeyondTheListTakesThePatternOfMode0) {
   // Only the pattern: there is no picture for such a mode.
   useMode(5);
-  ioBoardMode = -1;
-  EXPECT_DEATH(setIOMode(), "ilsDIP3");
+  for (const std::int16_t mode : {-1, 8}) {
+    ioBoardMode = mode;
+    EXPECT_DEATH(setIOMode(), "ilsDIP3") << mode;
+  }
 }
 
 // ---- Counters

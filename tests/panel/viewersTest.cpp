@@ -182,6 +182,10 @@ TEST_F(ViewersTest, TheExplanationFollowsTheTwoSwitchesOfABoard) {
   const auto shown = [] { return frmOsiro->picSTB.Picture.get().image; };
   doubleClick(frmHard->picSSA(0));
   EXPECT_TRUE(frmOsiro->picSTB.Picture.get().none()) << "one of them is still untouched";
+  for (const int number : {0, frmOsiro->ilsOsiro.count() + 1}) {
+    frmOsiro->initPicture(number);
+    EXPECT_TRUE(frmOsiro->picSTB.Picture.get().none()) << number;
+  }
   doubleClick(frmHard->picSSB(0));
   EXPECT_EQ(shown(), 4);
   doubleClick(frmHard->picSSA(0));

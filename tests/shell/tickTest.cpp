@@ -93,6 +93,16 @@ TEST_F(TickTest, OtherModesNeitherBeepNorStepByTheClick) {
   EXPECT_EQ(platform.beeps(), beeps);
 }
 
+TEST_F(TickTest, NoOtherModeTicks) {
+  clickMode(0);
+  for (const std::int16_t mode : {-1, 4, 5}) {
+    runMode = mode;
+    EXPECT_EQ(stepsIn([this] { platform.advance(1000); }), 0) << mode;
+  }
+  runMode = 0;
+  EXPECT_EQ(stepsIn([this] { platform.advance(20); }), 67);
+}
+
 TEST_F(TickTest, OneTimeShowsItsStepAtOnce) {
   clickMode(1);
   clickMode(3);

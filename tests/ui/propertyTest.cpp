@@ -99,6 +99,23 @@ TEST_F(PropertyTest, AChangeMarksItsControlOnceAndTheSameValueMarksNothing) {
   }
 }
 
+TEST_F(PropertyTest, AnAssignmentOfAPropertyToItselfOrToItsLikeMarksNothing) {
+  Label& text = frmSample->lblText;
+  Label& row = frmSample->lblRow(5);
+  text.Caption = "a";
+  row.Caption = "a";
+  frmSample->takeChanged();
+  const Label& same = text;
+  text.Caption = same.Caption;
+  text.Caption = row.Caption;
+  EXPECT_TRUE(frmSample->takeChanged().empty());
+  row.Caption = "b";
+  frmSample->takeChanged();
+  text.Caption = row.Caption;
+  EXPECT_EQ(frmSample->takeChanged(), std::vector<Control*>{&text});
+  EXPECT_EQ(text.Caption, std::string_view("b"));
+}
+
 TEST_F(PropertyTest, SeveralChangesOfOneControlAreOneMark) {
   frmSample->lblText.Caption = "a";
   frmSample->lblText.Caption = "b";

@@ -53,6 +53,14 @@ TEST_F(TimerTest, ANewTimerStandsStill) {
   EXPECT_EQ(during(10000), Lines{});
 }
 
+TEST_F(TimerTest, ATimerThatNobodyListensToHoldsUpNoOther) {
+  frmClock->timA.onTimer = nullptr;
+  frmClock->timA.Interval = 20;
+  frmClock->timB.Interval = 30;
+  EXPECT_EQ(during(30), Lines{"timB@30"});
+  EXPECT_EQ(desk().timers.nextDue(), 40);
+}
+
 TEST_F(TimerTest, SeveralFireInTheOrderOfTheirDueTime) {
   frmClock->timA.Interval = 30;
   frmClock->timB.Interval = 20;
