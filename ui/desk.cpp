@@ -151,6 +151,7 @@ void Desk::activate(Form& form) {
     focus(nullptr);
     if (!form.visible_ || active_ == &form) return;
   } while (focused_ != nullptr);
+  raise(form);  // a handler of the lost focus may have brought another window to the front
   if (active_ != nullptr) {
     Form& before = *active_;
     active_ = nullptr;

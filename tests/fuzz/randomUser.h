@@ -4,8 +4,6 @@
 #include <cstddef>
 #include <deque>
 #include <initializer_list>
-#include <iterator>
-#include <map>
 #include <random>
 #include <string>
 #include <string_view>
@@ -14,6 +12,7 @@
 #include "ui/controls.h"
 #include "ui/desk.h"
 #include "ui/listRows.h"
+#include "ui/platform.h"
 #include "ui/windowFrame.h"
 
 namespace zelvs {
@@ -41,11 +40,13 @@ class RandomUser {
 
   void think() {
     static constexpr Habit kHabits[] = {
-        {12, &RandomUser::wait},     {14, &RandomUser::rawClick},   {10, &RandomUser::rawDoubleClick},
-        {8, &RandomUser::rawPress},  {8, &RandomUser::rawRelease},  {8, &RandomUser::rawKey},
-        {4, &RandomUser::frame},     {14, &RandomUser::openList},   {12, &RandomUser::workList},
-        {30, &RandomUser::gesture},  {4, &RandomUser::held},        {2, &RandomUser::window},
-        {2, &RandomUser::startAnew}, {1, &RandomUser::startLesson}, {3, &RandomUser::answer},
+        {12, &RandomUser::wait},      {14, &RandomUser::rawClick},   {10, &RandomUser::rawDoubleClick},
+        {8, &RandomUser::rawPress},   {8, &RandomUser::rawRelease},  {8, &RandomUser::rawKey},
+        {4, &RandomUser::frame},      {14, &RandomUser::openList},   {12, &RandomUser::workList},
+        {30, &RandomUser::gesture},   {4, &RandomUser::held},        {2, &RandomUser::window},
+        {2, &RandomUser::startAnew},  {1, &RandomUser::startLesson}, {3, &RandomUser::answer},
+        {3, &RandomUser::writeByte},  {1, &RandomUser::readByte},    {1, &RandomUser::saveSettings},
+        {1, &RandomUser::openWindow},
     };
     int all = 0;
     for (const Habit& habit : kHabits)
@@ -166,7 +167,7 @@ class RandomUser {
         break;
       case 3:
         say({"move", name});
-        say({"pointer", std::to_string(upTo(1920)), std::to_string(upTo(1080))});
+        say({"pointer", somewhere(platform().screen().width), somewhere(platform().screen().height)});
         break;
       case 4:
         say({"type", name, any({"0", "9", "a", "F", "g", "\"\\t\"", "\" \"", "12fe", "表"})});
@@ -208,6 +209,51 @@ class RandomUser {
     say({"click frmNaviList.cmdStart"});
   }
 
+  /// As the CPU: into a register, or where a memory window shows it.
+  void writeByte() {
+    static const Texts kValues = {"05", "3F", "00", "01", "10", "FF", "41", "0500", "0005", "1010", "FF04", "0012"};
+    static const Texts kCells = {"lblValL", "lblValH", "lblBinL", "lblBinH"};
+    const bool ofRegister = upTo(2) == 0;
+    const std::string dialog = ofRegister ? "frmEditRegister." : "frmEditMemory.";
+    const std::string window = any({"frmDumpCDIO.lblData(", "frmDumpC17.lblASC(", "frmDumpDRC.lblData("});
+    const std::size_t cell = ofRegister ? 1 + upTo(8) : upTo(upTo(2) == 0 ? 128 : 896);
+    say({"dblclick", (ofRegister ? "frmRegister." + any(kCells) + "(" : window) + std::to_string(cell) + ")"});
+    if (upTo(3) == 0) say({"click", dialog + "opnAccess(" + std::to_string(upTo(2)) + ")"});
+    say({"type", dialog + "txtWriteData", any(kValues)});
+    say({"click", dialog + "cmdAction(0)"});
+  }
+
+  void readByte() {
+    static const Texts kAddresses = {"000", "07F", "080", "081", "100", "101", "4FF", "500", "584", "7FF", "800"};
+    say({"click frmMDI.lblMemoryWindow"});
+    say({"click frmDumpSel.cmdAREA(3)"});
+    for (std::size_t more = 1 + upTo(3); more > 0; --more) {
+      say({"type frmMemoryRead.txtAddress", any(kAddresses)});
+      say({"click frmMemoryRead.cmdAction(0)"});
+    }
+  }
+
+  void saveSettings() {
+    static const Texts kLists = {"cmbCPUType", "cmbSA(0)", "cmbSA(2)", "cmbClock(1)", "cmbIOS", "cmbMode"};
+    static const Texts kMarks = {"chkDef(0)", "chkDef(1)", "chkDef(5)", "chkCascade(0)", "optHF(0)", "optHF(1)"};
+    say({"click frmMDI.lblDefault"});
+    for (std::size_t more = upTo(4); more > 0; --more) {
+      if (upTo(2) == 0) {
+        say({"select", "frmDefault." + any(kLists), std::to_string(upTo(5))});
+      } else {
+        say({"click", "frmDefault." + any(kMarks)});
+      }
+    }
+    say({"click", "frmDefault.cmdAction(" + std::to_string(2 + upTo(2)) + ")"});
+    say({"click frmDefault.cmdAction(2)"});
+  }
+
+  void openWindow() {
+    if (upTo(3) == 0) return say({"click frmMDI.lblRegisterWindow"});
+    say({"click frmMDI.lblMemoryWindow"});
+    say({"click", "frmDumpSel.cmdAREA(" + std::to_string(upTo(5)) + ")"});
+  }
+
   /// A message box; the exit is rarely confirmed. Nothing where none is open.
   void answer() { say({"answer", upTo(40) == 0 ? "ok" : "cancel"}); }
 
@@ -224,12 +270,13 @@ class RandomUser {
     lines_.push_back(line);
   }
 
+  std::string somewhere(int pixels) { return std::to_string(upTo(static_cast<std::size_t>(pixels))); }
   static int pixels(double twips) { return static_cast<int>(twips / kTwipsPerPixel); }
 
   /// Mostly to where a hand does something, and in a list to a row.
   void moveHand() {
     if (upTo(12) == 0) {
-      say({"hand move", std::to_string(upTo(1920)), std::to_string(upTo(1080))});
+      say({"hand move", somewhere(platform().screen().width), somewhere(platform().screen().height)});
       return;
     }
     const Control* control = someControl();
@@ -260,16 +307,29 @@ class RandomUser {
     return *open[upTo(open.size())];
   }
 
-  /// One that does something, each name as likely as the other, however many bear it.
+  /// One that does something, each name as likely as the other, however many bear it. The members of an array stand one
+  /// behind the other: so nothing has to be sorted, and a window has thousands.
   const Control* someControl() {
-    std::map<std::string_view, std::vector<const Control*>> byName;
-    for (const Control* control : someForm().controls()) {
+    const std::vector<Control*>& controls = someForm().controls();
+    const auto works = [](const Control* control) {
       const bool does = control->isField() || control->onClick || control->onDblClick || control->onMouseDown;
-      if (does && control->shown()) byName[control->name()].push_back(control);
+      return does && control->shown();
+    };
+    std::size_t names = 0;
+    std::ptrdiff_t members = 0;  // of the chosen name
+    auto chosen = controls.end();
+    for (auto at = controls.begin(); at != controls.end();) {
+      const auto next = std::find_if(at, controls.end(), [at](const Control* c) { return c->name() != (*at)->name(); });
+      const std::ptrdiff_t working = std::count_if(at, next, works);
+      if (working > 0 && upTo(++names) == 0) {
+        chosen = at;
+        members = working;
+      }
+      at = next;
     }
-    if (byName.empty()) return nullptr;
-    const auto& members = std::next(byName.begin(), static_cast<std::ptrdiff_t>(upTo(byName.size())))->second;
-    return members[upTo(members.size())];
+    if (members == 0) return nullptr;
+    std::size_t left = upTo(static_cast<std::size_t>(members));
+    return *std::find_if(chosen, controls.end(), [&](const Control* c) { return works(c) && left-- == 0; });
   }
 
   std::mt19937 random_;

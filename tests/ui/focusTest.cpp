@@ -251,6 +251,19 @@ TEST_F(FocusTest, TheWindowThatTheUserTurnsToIsLeftNoFocusElsewhere) {
   EXPECT_EQ(desk().focused(), nullptr);
 }
 
+TEST_F(FocusTest, TheWindowThatTheUserTurnsToIsInFrontWhateverTheLostFocusShows) {
+  frmOther->show();
+  frmThird->show();
+  gesture::focus(frmOther->txtOther);
+  frmOther->txtOther.onLostFocus = [] {
+    frmOther->hide();
+    frmOther->show();
+  };
+  gesture::activate(*frmThird);
+  EXPECT_EQ(desk().active(), frmThird.get());
+  EXPECT_EQ(desk().forms().front(), frmThird.get());
+}
+
 TEST_F(FocusTest, AControlThatIsGivenTheFocusBringsItsWindowAlong) {
   frmOther->show();
   frmFields->show();
