@@ -1,9 +1,9 @@
 #include "lessons/naviIndex.h"
 
-#include <filesystem>
 #include <optional>
 #include <vector>
 
+#include "files/fileSystem.h"
 #include "state/state.h"
 #include "text/shortText.h"
 #include "text/textFile.h"
@@ -15,8 +15,9 @@ namespace {
 constexpr std::size_t kFields = 3;  // file name, title, note
 
 Flag isLesson(const std::string& fileName) {
-  std::error_code error;
-  return std::filesystem::is_regular_file(naviPath(fileName), error) ? kTrue : kFalse;
+  FileSystem::Status status;
+  const bool there = !fileSystem().status(naviPath(fileName), status);
+  return there && status.kind == FileSystem::Kind::Plain ? kTrue : kFalse;
 }
 
 /// The list shows every entry: more than these nobody has written by hand, or could look through.
