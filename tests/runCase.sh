@@ -7,6 +7,8 @@
 #   #no-ini           starts without ZELVS.INI
 #   #lesson FILE TEXT adds a line to a file of NaviData, which then holds nothing else than such lines; "|" is a TAB
 #   #no-lessons       starts without NaviData
+#   #damage FILE AT BYTES writes bytes, as printf takes them, over those of a file of the folder from a place on, which
+#                     counts from 0; without bytes the file has its end there
 #   #status N         the exit status that is wanted, 0 without the line
 #   #prints TEXT      a line that must be printed, byte for byte
 #   #prints-all       those are all the lines, in this order, but for any "ok"
@@ -37,6 +39,14 @@ sed -n 's/^#lesson //p' "$case" | while IFS=' ' read -r file text; do
   printf '%s\n' "$text" | tr '|' '\t' >> "$texts/$file"
 done
 (cd "$texts" && find . -type f) | while read -r file; do "$converter" "$texts/$file" "$folder/NaviData/$file"; done
+
+sed -n 's/^#damage //p' "$case" | while IFS=' ' read -r file at bytes; do
+  cp --remove-destination "$shipped/$file" "$folder/$file"
+  case $bytes in
+    "") truncate -s "$at" "$folder/$file" ;;
+    *) printf "$bytes" | dd of="$folder/$file" bs=1 seek="$at" conv=notrunc status=none ;;
+  esac
+done
 
 status=0
 "$program" "$@" --folder "$folder" "$case" > "$folder/output" 2> "$folder/errors" || status=$?

@@ -1,13 +1,9 @@
 #include "ui/picture.h"
 
-#include <array>
-#include <cstdint>
-#include <cstdlib>
-#include <filesystem>
-#include <fstream>
 #include <map>
-#include <optional>
 
+#include "files/readFile.h"
+#include "text/shortText.h"
 #include "ui/runTimeError.h"
 
 namespace zelvs {
@@ -42,45 +38,28 @@ const PictureFile* fileOf(const Picture& picture) {
 
 namespace {
 
-std::int32_t littleEndian32(const unsigned char* bytes) {
-  return static_cast<std::int32_t>(bytes[0] | bytes[1] << 8 | bytes[2] << 16 |
-                                   static_cast<std::uint32_t>(bytes[3]) << 24);
-}
-
 /// Nothing for a file that is no picture; refusal then says why.
-std::optional<PictureFile> readBitmapHead(const std::string& path, std::string& refusal) {
-  // Only a plain file is opened: a pipe that nobody writes to would be waited for without end.
-  std::error_code error;
-  const bool there = std::filesystem::exists(path, error);
-  refusal = "not a bitmap picture: " + path;
-  if (there && !std::filesystem::is_regular_file(path, error)) return std::nullopt;
-  std::ifstream file(path, std::ios::binary);
-  if (!there || !file) {
-    refusal = "picture file not found: " + path;
-    return std::nullopt;
+std::optional<Bitmap> readPicture(const std::string& path, std::string& refusal) {
+  const std::optional<std::string> bytes = readFile(path, &refusal, kLargestBitmapFile);
+  std::optional<Bitmap> bitmap;
+  if (bytes) bitmap = readBitmap(*bytes, refusal);
+  if (!bytes && refusal.empty()) {
+    refusal = "picture file not found: " + shortPath(path);
+  } else if (!bitmap) {
+    refusal = "not a bitmap picture: " + shortPath(path) + ": " + refusal;
   }
-  std::array<unsigned char, 26> head{};
-  file.read(reinterpret_cast<char*>(head.data()), head.size());
-  const bool bitmap = file.gcount() == static_cast<std::streamsize>(head.size()) && head[0] == 'B' && head[1] == 'M';
-  // Rows may be stored from the top, which a negative height tells. Sizes past this are a damaged file.
-  constexpr std::int32_t kLargestSide = 32767;
-  const std::int32_t width = littleEndian32(&head[18]);
-  const std::int32_t height = littleEndian32(&head[22]);
-  if (!bitmap || width < 1 || width > kLargestSide || height == 0 || height < -kLargestSide || height > kLargestSide) {
-    return std::nullopt;
-  }
-  const auto slash = path.find_last_of("/\\");
-  return PictureFile{path, slash == std::string::npos ? path : path.substr(slash + 1), width, std::abs(height)};
+  return bitmap;
 }
 
-/// Pictures are kept for the whole run: a schematic that is looked at again costs no second reading.
+/// Pictures are known for the whole run, but for their pixels: a schematic that is looked at again is not judged again.
 Picture findPicture(const std::string& path, std::string& refusal) {
   static std::map<std::string, PictureFile> known;
   auto found = known.find(path);
   if (found == known.end()) {
-    const std::optional<PictureFile> file = readBitmapHead(path, refusal);
-    if (!file) return {};
-    found = known.emplace(path, *file).first;
+    const std::optional<Bitmap> bitmap = readPicture(path, refusal);
+    if (!bitmap) return {};
+    const std::string name = path.substr(path.find_last_of("/\\") + 1);  // all of it where there is no separator
+    found = known.emplace(path, PictureFile{path, name, bitmap->width, bitmap->height}).first;
   }
   return Picture{nullptr, 0, &found->second};
 }
@@ -97,6 +76,11 @@ Picture loadPicture(const std::string& path) {
 Picture loadPictureIfThere(const std::string& path) {
   std::string refusal;
   return findPicture(path, refusal);
+}
+
+std::optional<Bitmap> pixelsOf(const PictureFile& file) {
+  std::string refusal;
+  return readPicture(file.path, refusal);
 }
 
 }  // namespace zelvs

@@ -1,13 +1,16 @@
 #pragma once
 
+#include <optional>
 #include <string>
 #include <vector>
+
+#include "ui/bitmap.h"
 
 namespace zelvs {
 
 class ImageList;
 
-/// A picture that stands in a file. Sizes are in pixels, read from the file's head.
+/// A picture that stands in a file. Sizes are in pixels, as they were when it was loaded.
 struct PictureFile {
   std::string path;
   std::string name;  ///< the file's name without its folder
@@ -53,9 +56,13 @@ class ImageList {
 /// The file behind a picture; null for none and for an image that the program carries.
 const PictureFile* fileOf(const Picture& picture);
 
-/// Opens a Windows bitmap file. A file that is missing or is no bitmap is a run-time error that names the file.
+/// Reads a Windows bitmap file and judges all of it, so that a picture that was loaded can be shown; but its pixels are
+/// not kept. A file that is missing or is refused by readBitmap() is a run-time error that names the file and says why.
 Picture loadPicture(const std::string& path);
 /// The same, but such a file gives no picture.
 Picture loadPictureIfThere(const std::string& path);
+
+/// Reads the file again, for whoever shows it: what it holds by now, or nothing when it is no picture any more.
+std::optional<Bitmap> pixelsOf(const PictureFile& file);
 
 }  // namespace zelvs

@@ -16,6 +16,7 @@
 #include "monitor/windowRefresh.h"
 #include "shell/frmMDI.h"
 #include "support/program.h"
+#include "support/wave.h"
 #include "ui/gesture.h"
 #include "ui/textExtent.h"
 
@@ -243,9 +244,6 @@ TEST_F(MessageTest, TheBoxHoldsTheUserWhileTheTicksGoOn) {
 
 // ---- The beep
 
-constexpr std::string_view kShortWave(
-    "RIFF\x24\0\0\0WAVEfmt \x10\0\0\0\1\0\1\0\x40\x1F\0\0\x40\x1F\0\0\1\0\x08\0data\0\0\0\0", 44);
-
 class BeepTest : public ProgramTest {
  protected:
   BeepTest() { setPlatform(&ear); }
@@ -257,7 +255,7 @@ class BeepTest : public ProgramTest {
 };
 
 TEST_F(BeepTest, TheSoundOfTheFolderIsPlayed) {
-  folder.write("BEEP.WAV", std::string(kShortWave));
+  folder.write("BEEP.WAV", silentWave());
   start();
   EXPECT_EQ(beepDeviceOpen, kTrue);
   EXPECT_TRUE(frmHard->mmcBeep.DeviceType == "WaveAudio");

@@ -107,6 +107,25 @@ TEST_F(HintTest, APictureThatIsNoneIsLeftOut) {
   EXPECT_EQ(shownPicture(), "3.bmp") << "image 1, which is the third tab's";
 }
 
+TEST_F(HintTest, ADamagedPictureIsLeftOutWhateverItsFault) {
+  BitmapFile packed{10, 60};
+  packed.packing = 7;
+  folder.write("HintData/cut.bmp", bitmapOf(10, 60).substr(0, 30));
+  folder.write("HintData/short.bmp", bitmapOf(10, 60).substr(0, 1000));
+  folder.write("HintData/packed.bmp", packed.bytes());
+  folder.write("HintData/wide.bmp", bitmapOf(20000, 1));
+  folder.write("HintData/sparse.bmp", bitmapOf(10, 60));
+  std::filesystem::resize_file(folder.file("HintData/sparse.bmp"), std::uintmax_t{1} << 40);
+  for (const char* name : {"cut.bmp", "short.bmp", "packed.bmp", "wide.bmp", "sparse.bmp"}) {
+    SCOPED_TRACE(name);
+    desk().clear();
+    startWith("1.bmp\tA\r\n" + std::string(name) + "\tB\r\n3.bmp\tC\r\n");
+    EXPECT_EQ(captions(), (Texts{"A", "B", "C"}));
+    EXPECT_EQ(images(), (Texts{"1.bmp", "3.bmp"}));
+    EXPECT_EQ(shownPicture(), "1.bmp");
+  }
+}
+
 TEST_F(HintTest, APictureLiesInAFolderByEitherSeparator) {
   std::filesystem::create_directory(folder.file("HintData/sub"));
   folder.write("HintData/sub/a.bmp", bitmapOf(10, 60));
@@ -253,8 +272,7 @@ TEST_F(HintTest, ItsCloseBoxHidesItAndTheTabsStay) {
 }
 
 TEST_F(HintTest, TheWindowHasRoomForTheLargestPicture) {
-  folder.write("HintData/wide.bmp", std::string("BM") + std::string(16, '\0') + "\x58\x02" + std::string(2, '\0') +
-                                        "\x90\x01" + std::string(2, '\0'));  // 600 x 400
+  folder.write("HintData/wide.bmp", bitmapOf(600, 400));
   startWith("1.bmp\tA\r\nwide.bmp\tB\r\n");
   frmHint->tabHint.Tab = 1;
   const PictureBox& picture = frmHint->picHint;

@@ -19,6 +19,7 @@
 #include "shell/restart.h"
 #include "support/heap.h"
 #include "support/program.h"
+#include "support/wave.h"
 #include "ui/gesture.h"
 
 namespace zelvs {
@@ -217,7 +218,7 @@ TEST_F(RestartTest, DuplicateAddressesAreNotToldDuringIt) {
 TEST_F(RestartTest, TheBeepDeviceOpensForTheNewPanel) {
   start();
   EXPECT_EQ(beepDeviceOpen, kFalse);
-  folder.write("BEEP.WAV", std::string("RIFF\x24\0\0\0WAVEfmt ", 16) + std::string(64, '\0'));
+  folder.write("BEEP.WAV", silentWave());
   restartSimulator();
   EXPECT_EQ(beepDeviceOpen, kTrue);
   EXPECT_EQ(frmHard->mmcBeep.FileName.get(), folder.file("BEEP.WAV"));

@@ -6,6 +6,7 @@
 #include "shell/frmVersion.h"
 #include "shell/startUp.h"
 #include "support/engineFixture.h"
+#include "support/wave.h"
 #include "text/utf8.h"
 #include "ui/view.h"
 
@@ -178,7 +179,7 @@ TEST_F(StartUpTest, WithoutAWaveFileTheSystemBeeps) {
 }
 
 TEST_F(StartUpTest, AWaveFileOpensTheDevice) {
-  folder.write("BEEP.WAV", std::string("RIFF\x24\0\0\0WAVE", 12));
+  folder.write("BEEP.WAV", silentWave());
   start();
   EXPECT_EQ(beepDeviceOpen, kTrue);
   const int beeps = platform.beeps();

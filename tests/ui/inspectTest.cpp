@@ -3,6 +3,7 @@
 #include <limits>
 #include <string>
 
+#include "support/bitmap.h"
 #include "support/program.h"
 #include "ui/controls.h"
 #include "ui/inspect.h"
@@ -166,10 +167,7 @@ TEST_F(InspectTest, RowsAndTabsAreLookedAtByPosition) {
 }
 
 TEST_F(InspectTest, AFileIsNamedWithoutItsFolder) {
-  std::string head = "BM" + std::string(24, '\0');
-  head[18] = 1;
-  head[22] = 1;
-  folder.write("board 1.bmp", head);
+  folder.write("board 1.bmp", bitmapOf(1, 1));
   zoo().picLamp.Picture = loadPicture(folder.file("board 1.bmp"));
   EXPECT_EQ(look(zoo().picLamp, "Picture"), "file board 1.bmp");
 }

@@ -2,9 +2,10 @@
 
 #include <sys/stat.h>
 
-#include <cstdint>
+#include <filesystem>
 #include <string>
 
+#include "support/bitmap.h"
 #include "support/program.h"
 #include "ui/controls.h"
 
@@ -20,27 +21,6 @@ class FrmAlbum final : public Form {
 };
 FormRef<FrmAlbum> frmAlbum{"frmAlbum"};
 
-void put(std::string& bytes, std::uint32_t value, int count) {
-  for (int i = 0; i < count; ++i)
-    bytes += static_cast<char>(value >> 8 * i & 0xFF);
-}
-
-/// A bitmap of 24 bits a pixel, all white.
-std::string bitmap(int width, int height) {
-  const int rowBytes = (width * 3 + 3) / 4 * 4;
-  const auto pixels = static_cast<std::uint32_t>(rowBytes * std::abs(height));
-  std::string bytes = "BM";
-  for (const std::uint32_t value :
-       {54 + pixels, 0u, 54u, 40u, static_cast<std::uint32_t>(width), static_cast<std::uint32_t>(height)}) {
-    put(bytes, value, 4);
-  }
-  put(bytes, 1, 2);
-  put(bytes, 24, 2);
-  for (const std::uint32_t value : {0u, pixels, 2835u, 2835u, 0u, 0u})
-    put(bytes, value, 4);
-  return bytes + std::string(pixels, '\xFF');
-}
-
 class PictureTest : public ProgramTest {
  protected:
   std::string write(const std::string& name, const std::string& bytes) {
@@ -50,7 +30,7 @@ class PictureTest : public ProgramTest {
 };
 
 TEST_F(PictureTest, ABitmapsSizeIsReadFromItsHead) {
-  const Picture picture = loadPicture(write("3x2.bmp", bitmap(3, 2)));
+  const Picture picture = loadPicture(write("3x2.bmp", bitmapOf(3, 2)));
   ASSERT_NE(picture.file, nullptr);
   EXPECT_EQ(picture.file->width, 3);
   EXPECT_EQ(picture.file->height, 2);
@@ -59,13 +39,13 @@ TEST_F(PictureTest, ABitmapsSizeIsReadFromItsHead) {
 }
 
 TEST_F(PictureTest, RowsMayBeStoredFromTheTop) {
-  EXPECT_EQ(loadPicture(write("top.bmp", bitmap(4, -5))).file->height, 5);
+  EXPECT_EQ(loadPicture(write("top.bmp", bitmapOf(4, -5))).file->height, 5);
 }
 
 TEST_F(PictureTest, TheSameFileIsTheSamePicture) {
-  const std::string path = write("again.bmp", bitmap(1, 1));
+  const std::string path = write("again.bmp", bitmapOf(1, 1));
   EXPECT_TRUE(loadPicture(path) == loadPicture(path));
-  EXPECT_FALSE(loadPicture(path) == loadPicture(write("other.bmp", bitmap(1, 1))));
+  EXPECT_FALSE(loadPicture(path) == loadPicture(write("other.bmp", bitmapOf(1, 1))));
   EXPECT_FALSE(loadPicture(path) == Picture{});
 }
 
@@ -78,24 +58,57 @@ TEST_F(PictureTest, AFileThatIsNoBitmapEndsTheProgramWithItsName) {
   struct Row {
     const char* name;
     std::string bytes;
+    const char* why;
   };
+  const std::string whole = bitmapOf(3, 2);
   const Row table[] = {
-      {"empty.bmp", ""},
-      {"short.bmp", "BM"},
-      {"truncated.bmp", bitmap(3, 2).substr(0, 25)},
-      {"text.bmp", std::string(100, 'x')},
-      {"zeros.bmp", std::string(100, '\0')},
-      {"nowidth.bmp", bitmap(0, 2)},
-      {"noheight.bmp", bitmap(3, 0)},
-      {"negative.bmp", bitmap(3, 2).replace(18, 4, "\xFF\xFF\xFF\xFF", 4)},
-      {"huge.bmp", bitmap(3, 2).replace(22, 4, "\xFF\xFF\xFF\x7F", 4)},
+      {"empty.bmp", "", "it does not begin as one"},
+      {"short.bmp", "BM", "it does not begin as one"},
+      {"truncated.bmp", std::string(whole).substr(0, 25), "it does not begin as one"},
+      {"text.bmp", std::string(100, 'x'), "it does not begin as one"},
+      {"zeros.bmp", std::string(100, '\0'), "it does not begin as one"},
+      {"nowidth.bmp", bitmapOf(0, 2), "0 x 2 pixels: a side has 1 to 8192"},
+      {"noheight.bmp", bitmapOf(3, 0), "3 x 0 pixels: a side has 1 to 8192"},
+      {"negative.bmp", std::string(whole).replace(18, 4, "\xFF\xFF\xFF\xFF", 4), "-1 x 2 pixels: a side has 1 to 8192"},
+      {"huge.bmp", std::string(whole).replace(22, 4, "\xFF\xFF\xFF\x7F", 4),
+       "3 x 2147483647 pixels: a side has 1 to 8192"},
+      {"headalone.bmp", std::string(whole).substr(0, 30), "its head ends early"},
+      {"cut.bmp", std::string(whole).substr(0, whole.size() - 1), "its pixels end early"},
   };
   for (const Row& row : table) {
     SCOPED_TRACE(row.name);
     const std::string path = write(row.name, row.bytes);
     EXPECT_EXIT(loadPicture(path), testing::ExitedWithCode(kRunTimeErrorStatus),
-                std::string("not a bitmap picture: .*/") + row.name + "\n");
+                std::string("not a bitmap picture: .*/") + row.name + ": " + row.why + "\n");
+    EXPECT_TRUE(loadPictureIfThere(path).none());
   }
+}
+
+TEST_F(PictureTest, AFileThatIsTooLargeIsNotEvenOpened) {
+  for (const std::uintmax_t size : {std::uintmax_t{kLargestBitmapFile} + 1, std::uintmax_t{1} << 40}) {
+    const std::string larger = write("larger.bmp", bitmapOf(3, 2));
+    std::filesystem::resize_file(larger, size);
+    EXPECT_TRUE(loadPictureIfThere(larger).none());
+    EXPECT_EXIT(loadPicture(larger), testing::ExitedWithCode(kRunTimeErrorStatus),
+                "not a bitmap picture: .*/larger.bmp: larger than 269484032 bytes\n");
+  }
+}
+
+TEST_F(PictureTest, ItsPixelsAreReadWhenTheyAreShown) {
+  const Picture picture = loadPicture(write("shown.bmp", bitmapOf(3, 2)));
+  const std::optional<Bitmap> first = pixelsOf(*picture.file);
+  ASSERT_TRUE(first);
+  EXPECT_EQ(first->pixels, std::vector<std::uint32_t>(6, 0xFFFFFFFF));
+  write("shown.bmp", bitmapOf(5, 4));
+  const std::optional<Bitmap> changed = pixelsOf(*picture.file);
+  ASSERT_TRUE(changed) << "what the file holds by now";
+  EXPECT_EQ(changed->width, 5);
+  EXPECT_EQ(changed->height, 4);
+  write("shown.bmp", "BM");
+  EXPECT_FALSE(pixelsOf(*picture.file));
+  std::filesystem::remove(picture.file->path);
+  EXPECT_FALSE(pixelsOf(*picture.file));
+  EXPECT_TRUE(loadPicture(picture.file->path) == picture) << "known for the whole run";
 }
 
 TEST_F(PictureTest, AFolderOrAPipeInItsPlaceEndsTheProgramToo) {
@@ -123,8 +136,8 @@ TEST_F(PictureTest, AnImageListCountsFromOne) {
 
 TEST_F(PictureTest, AddedPicturesComeBehindTheCarriedOnes) {
   ImageList list("ilsHint", 2);
-  const Picture first = loadPicture(write("first.bmp", bitmap(1, 1)));
-  const Picture second = loadPicture(write("second.bmp", bitmap(1, 1)));
+  const Picture first = loadPicture(write("first.bmp", bitmapOf(1, 1)));
+  const Picture second = loadPicture(write("second.bmp", bitmapOf(1, 1)));
   list.add(first);
   list.add(second);
   EXPECT_EQ(list.count(), 4);
@@ -143,13 +156,13 @@ TEST_F(PictureTest, AddedPicturesComeBehindTheCarriedOnes) {
 
 TEST_F(PictureTest, ABoxTakesTheSizeOfAFilesPictureWhenItIsAskedTo) {
   PictureBox& box = frmAlbum->picPage;
-  const Picture picture = loadPicture(write("page.bmp", bitmap(10, 20)));
+  const Picture picture = loadPicture(write("page.bmp", bitmapOf(10, 20)));
   box.Picture = picture;
   EXPECT_EQ(box.Width, 0.0);
   box.AutoSize = true;
   EXPECT_EQ(box.Width, 150.0);
   EXPECT_EQ(box.Height, 300.0);
-  box.Picture = loadPicture(write("wide.bmp", bitmap(40, 20)));
+  box.Picture = loadPicture(write("wide.bmp", bitmapOf(40, 20)));
   EXPECT_EQ(box.Width, 600.0);
   box.Picture = frmAlbum->ilsCarried.image(1);
   EXPECT_EQ(box.Width, 600.0) << "a carried image has no size of its own";

@@ -2,9 +2,11 @@
 
 #include <QFile>
 #include <QHash>
+#include <QImage>
 #include <QPainter>
 #include <QSvgRenderer>
 #include <memory>
+#include <optional>
 
 #include "ui/runTimeError.h"
 
@@ -36,6 +38,14 @@ QPixmap render(const ImageList& list, int image, QSize pixels) {
   return pixmap;
 }
 
+QPixmap read(const PictureFile& file) {
+  const std::optional<Bitmap> bitmap = pixelsOf(file);
+  if (!bitmap) return {};
+  const auto* const pixels = reinterpret_cast<const uchar*>(bitmap->pixels.data());
+  const QImage lent(pixels, bitmap->width, bitmap->height, QImage::Format_ARGB32);
+  return QPixmap::fromImage(lent.copy());  // a pixmap may go on using what it is made from
+}
+
 }  // namespace
 
 QPixmap spriteOf(const Picture& picture, QSize size, qreal devicePixelRatio) {
@@ -51,7 +61,7 @@ QPixmap spriteOf(const Picture& picture, QSize size, qreal devicePixelRatio) {
 
   QPixmap pixmap;
   if (file != nullptr) {
-    if (!pixmap.load(source)) runTimeError("picture file cannot be read: " + file->path);
+    pixmap = read(*file);
   } else {
     pixmap = render(*picture.list, picture.image, (QSizeF(size) * devicePixelRatio).toSize());
     pixmap.setDevicePixelRatio(devicePixelRatio);
