@@ -8,7 +8,10 @@ namespace zelvs {
 
 namespace {
 
-constexpr std::size_t kPiece = 1 << 20;  // bytes that are asked for at once
+// Bytes that are asked for at once: what the file is said to have still, or a little more than that. A small file shall
+// cost little, and one that ends where it should is read in place.
+constexpr std::size_t kMostAtOnce = 1 << 20;
+constexpr std::size_t kLeastAtOnce = 1 << 12;
 
 bool isMissing(const std::error_code& error) {
   for (const std::errc kind : {std::errc::no_such_file_or_directory, std::errc::not_a_directory,
@@ -22,11 +25,13 @@ std::string tooLarge(std::size_t most) {
   return "larger than " + std::to_string(most) + " bytes";
 }
 
-/// Reads from where bytes ends to the end of the file, and not further than `most`.
-std::error_code readToTheEnd(FileSystem::File file, std::size_t most, std::string& bytes) {
+/// Reads to the end of the file, which may lie elsewhere than its size told, and not further than `most`.
+std::error_code readToTheEnd(FileSystem::File file, std::size_t size, std::size_t most, std::string& bytes) {
+  bytes.reserve(size + kLeastAtOnce);
   for (;;) {
     const std::size_t at = bytes.size();
-    const std::size_t room = std::min(kPiece, most + 1 - at);
+    const std::size_t awaited = std::clamp(size - std::min(at, size), kLeastAtOnce, kMostAtOnce);
+    const std::size_t room = std::min(awaited, most + 1 - at);
     bytes.resize(at + room);
     std::size_t got = 0;
     const std::error_code error =
@@ -51,8 +56,7 @@ std::optional<std::string> readFile(const std::string& path, std::string* refusa
   if (!error) error = fileSystem().status(file.get(), status);
   std::string bytes;
   if (!error && status.size <= most) {
-    bytes.reserve(static_cast<std::size_t>(status.size));
-    error = readToTheEnd(file.get(), most, bytes);
+    error = readToTheEnd(file.get(), static_cast<std::size_t>(status.size), most, bytes);
   }
   if (error) {
     why = error.message();

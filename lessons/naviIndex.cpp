@@ -1,8 +1,8 @@
 #include "lessons/naviIndex.h"
 
-#include <filesystem>
 #include <vector>
 
+#include "files/fileSystem.h"
 #include "text/shortText.h"
 #include "text/textFile.h"
 
@@ -11,8 +11,9 @@ namespace zelvs {
 namespace {
 
 Flag isLesson(const std::string& fileName) {
-  std::error_code error;
-  return std::filesystem::is_regular_file(naviPath(fileName), error) ? kTrue : kFalse;
+  FileSystem::Status status;
+  const bool there = !fileSystem().status(naviPath(fileName), status);
+  return there && status.kind == FileSystem::Kind::Plain ? kTrue : kFalse;
 }
 
 [[noreturn]] void refuse(const std::string& path, const std::string& why) {

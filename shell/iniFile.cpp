@@ -127,24 +127,15 @@ std::vector<std::optional<std::string>> Profile::values(std::string_view section
 }
 
 double leadingNumber(std::string_view text) {
-  std::size_t at = 0;
-  while (at < text.size() && (text[at] == ' ' || text[at] == '\t'))
-    ++at;
-  const bool negative = at < text.size() && text[at] == '-';
-  if (at < text.size() && (text[at] == '-' || text[at] == '+')) ++at;
-  const auto digit = [&] { return at < text.size() && text[at] >= '0' && text[at] <= '9'; };
-  double number = 0;
-  for (; digit(); ++at)
-    number = number * 10 + (text[at] - '0');
-  if (at < text.size() && text[at] == '.') {
-    ++at;
-    const std::size_t fraction = at;
-    while (digit())
-      ++at;
-    // The fraction is read as a whole: added up digit by digit, 0.3 would not be what 0.3 is elsewhere.
-    const std::string digits(text.substr(fraction, at - fraction));
-    number += readNumber("0." + digits + "0").value_or(0);
-  }
+  constexpr std::string_view kDigits = "0123456789";
+  text.remove_prefix(std::min(text.find_first_not_of(" \t"), text.size()));
+  const bool negative = text.starts_with('-');
+  if (negative || text.starts_with('+')) text.remove_prefix(1);
+  std::size_t end = std::min(text.find_first_not_of(kDigits), text.size());
+  if (text.substr(end).starts_with('.')) end = std::min(text.find_first_not_of(kDigits, end + 1), text.size());
+  // Read as a whole: a sum of its digits, or of its whole part and its fraction, would be another number in its last
+  // bit than the text that it is written back as.
+  const double number = readNumber("0" + std::string(text.substr(0, end))).value_or(0);
   // "-x" is plain 0, not a negative one.
   return negative && number != 0 ? -number : number;
 }

@@ -52,7 +52,8 @@ struct IniValue {
 void writeIniValues(std::string_view section, const std::vector<IniValue>& values);
 void writeIniValue(std::string_view section, std::string_view key, std::string_view value);
 
-/// The number that a text begins with: blanks, a sign, digits, a fraction. 0 when there is none.
+/// The number that a text begins with: blanks, a sign, digits, a fraction. 0 when there is none, and when a double
+/// cannot hold it.
 double leadingNumber(std::string_view text);
 /// Rounded to a whole number, halves to even, of which the low 16 bits count: 65535 is -1.
 std::int16_t wholeNumber16(double number);

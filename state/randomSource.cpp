@@ -39,4 +39,9 @@ void queueRandom(double number) {
   theQueue.push_back(number);
 }
 
+void clearRandom() {
+  theGenerator.seed();
+  theQueue.clear();
+}
+
 }  // namespace zelvs

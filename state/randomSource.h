@@ -9,5 +9,7 @@ void reseedRandom();
 void seedRandom(double seed);
 /// The next draws return what was queued, in order; then the generator goes on by itself.
 void queueRandom(double number);
+/// Forgets what was queued and draws as before the first seed.
+void clearRandom();
 
 }  // namespace zelvs

@@ -3,6 +3,8 @@
 #include <cstring>
 #include <string>
 
+#include "state/randomSource.h"
+
 namespace zelvs {
 
 void sharedIndexError(int index, int first, int last) {
@@ -20,6 +22,7 @@ void clearState() {
   iniFilePath.clear();
   naviDataPath.clear();
   naviIndex.clear();
+  clearRandom();
 }
 
 }  // namespace zelvs

@@ -144,7 +144,7 @@ struct VariableName {
 
 const std::vector<VariableName>& variableNames();
 
-/// Puts every variable back to what it is before the program starts.
+/// Puts every variable, and chance, back to what it is before the program starts.
 void clearState();
 
 }  // namespace zelvs

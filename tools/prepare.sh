@@ -1,4 +1,4 @@
-# Sourced by ./run, ./test, .ci/run and .ci/otherLibrary: gets what is missing, configures and builds. Expects $root.
+# Sourced by ./run, ./test, ./fuzz, .ci/run and .ci/otherLibrary: gets what is missing, configures and builds. Expects $root.
 #
 # On Debian and its relatives packages come by apt-get. Root's call installs them; anybody else is told the line that
 # does, since a build has no business asking for a password. Anywhere else the packages are listed.

@@ -233,5 +233,14 @@ TEST(RandomSourceTest, AReseedLeavesQueuedNumbersInPlace) {
   EXPECT_EQ(drawUniform(), 0.75);
 }
 
+TEST(RandomSourceTest, AClearedStateHasNothingQueuedAndDrawsAsAtFirst) {
+  clearState();
+  const double first = drawUniform();
+  queueRandom(2);
+  seedRandom(1);
+  clearState();
+  EXPECT_EQ(drawUniform(), first);
+}
+
 }  // namespace
 }  // namespace zelvs
