@@ -124,7 +124,8 @@ std::vector<Finding> checkLessons() {
     if (const auto record = naviRecordOf(line)) {
       checkLesson(part, record->fileName);
     } else {
-      part.wrong(index + ", line " + std::to_string(i + 1) + " is no file name, title and note: the program ends there");
+      part.wrong(index + ", line " + std::to_string(i + 1) +
+                 " is no file name, title and note: the program ends there");
     }
   }
   return part.otherwise(std::to_string(lessons) + " lessons");
