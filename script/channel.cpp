@@ -32,7 +32,7 @@ bool again(ssize_t result, int descriptor, short awaited) {
 Channel::Channel(int descriptor, std::string name) : descriptor_(descriptor), name_(std::move(name)) {}
 
 std::string Channel::open(const std::string& name) {
-  const std::string cannot = "cannot read " + name;
+  std::string cannot = "cannot read " + name;
   struct stat file {};
   // Asked before it is opened: some devices do things when they are.
   if (::stat(name.c_str(), &file) != 0 || S_ISDIR(file.st_mode)) return cannot;

@@ -35,7 +35,7 @@ bool ScriptRunner::runNext() {
   bool tooLong = false;
   if (!readLine(line, tooLong)) return false;
   if (tooLong) {
-    refuse("line " + std::to_string(lines_) + " is longer than " + std::to_string(kLongestLine) + " bytes");
+    refuse("line " + std::to_string(lines_) + " is longer than " + std::to_string(kLongestScriptLine) + " bytes");
   } else {
     runLine(line);
   }
@@ -48,7 +48,7 @@ bool ScriptRunner::readLine(std::string& line, bool& tooLong) {
   int byte = in_.get();
   if (byte == kEnd) return false;
   for (; byte != kEnd && byte != '\n'; byte = in_.get()) {
-    tooLong = line.size() == kLongestLine;
+    tooLong = line.size() == kLongestScriptLine;
     if (!tooLong) line += static_cast<char>(byte);
   }
   ++lines_;

@@ -11,7 +11,7 @@ namespace zelvs {
 /// Exit status of a script that could not be read to its end, or whose answers could not be written.
 inline constexpr int kBrokenOffStatus = 4;
 /// Bytes of a line, its end not counted. A longer one is a refused command; what of it is too much is never kept.
-inline constexpr std::size_t kLongestLine = 65536;
+inline constexpr std::size_t kLongestScriptLine = 65536;
 
 /// Reads a script and carries it out on the running program. What it opens that holds the user, a modal window or a
 /// message box, the following commands work in.

@@ -26,7 +26,7 @@ TEST_F(ScriptRunnerTest, QuotesAndEscapes) {
 }
 
 TEST_F(ScriptRunnerTest, ALineHasALongestLength) {
-  const std::string longest = "echo " + std::string(kLongestLine - 5, 'x');
+  const std::string longest = "echo " + std::string(kLongestScriptLine - 5, 'x');
   EXPECT_EQ(run(longest), longest.substr(5) + "\n");
   EXPECT_EQ(run(longest + "\nnow\n"), longest.substr(5) + "\nnow = 0\n");
   EXPECT_EQ(status, 0);
