@@ -83,7 +83,10 @@ std::vector<Finding> checkSettings() {
   std::string refusal;
   const std::optional<Profile> profile = Profile::read(path, refusal);
   if (!profile) {
-    part.wrong(refusal.empty() ? "is missing: every setting counts as 0" : "cannot be read: " + refusal);
+    std::error_code error;
+    const bool there = fs::exists(fs::symlink_status(path, error));
+    const std::string absent = there ? "is no plain file" : "is missing";
+    part.wrong(refusal.empty() ? absent + ": every setting counts as 0" : "cannot be read: " + refusal);
     return part.otherwise("");
   }
   std::vector<std::string_view> keys;

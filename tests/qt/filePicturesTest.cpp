@@ -5,9 +5,9 @@
 #include <filesystem>
 #include <random>
 
+#include "files/readFile.h"
 #include "qt/support/desktop.h"
 #include "support/bitmap.h"
-#include "text/textFile.h"
 #include "ui/bitmap.h"
 #include "ui/controls.h"
 #include "ui/qt/sprites.h"

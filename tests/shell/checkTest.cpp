@@ -77,7 +77,7 @@ TEST_F(CheckTest, WhatIsWrongIsNamed) {
          fs::remove(folder.file("ZELVS.INI"));
          fs::create_directory(folder.file("ZELVS.INI"));
        },
-       {"ZELVS.INI: cannot be read: every setting counts as 0"}},
+       {"ZELVS.INI: is no plain file: every setting counts as 0"}},
       {[this] { folder.write("ZELVS.INI", "[init2]\r\nCPUTYPE=1\r\n"); },
        {"ZELVS.INI: has no setting in a section [INIT]: every one counts as 0"}},
       {[this] { folder.write("ZELVS.INI", std::string("\xFF\xFE[\0I\0", 6)); },
@@ -85,8 +85,7 @@ TEST_F(CheckTest, WhatIsWrongIsNamed) {
       {[this] { fs::permissions(folder.file("ZELVS.INI"), fs::perms::owner_read); },
        {"ZELVS.INI: may not be written: no settings are saved"}},
 
-      {remove("NaviData/NaviIndex.txt"),
-       {"NaviData: NaviIndex.txt is missing or cannot be read: the list of lessons is empty"}},
+      {remove("NaviData/NaviIndex.txt"), {"NaviData: NaviIndex.txt is missing: the list of lessons is empty"}},
       {[this] {
          put("NaviData/NaviIndex.txt",
              "; none.txt\r\none.txt\t表\t\r\nno lesson\r\nempty.txt\tb\t\r\nnone.txt\tc\t\r\n");
@@ -95,7 +94,7 @@ TEST_F(CheckTest, WhatIsWrongIsNamed) {
        },
        {"NaviData: NaviIndex.txt, line 3 is no file name, title and note: the program ends there",
         "NaviData: the lesson empty.txt has no page: a page has three lines",
-        "NaviData: the lesson none.txt is missing or cannot be read"}},
+        "NaviData: the lesson none.txt is missing"}},
 
       {remove("HintData/RegsterHint.TXT"),
        {"HintData: RegsterHint.TXT is missing or cannot be read: there are no hints"}},
