@@ -1,14 +1,17 @@
 // The engine beside a second, plainly written link: thousands of steps under random settings and random users, and
-// the two must agree after each one.
+// the two must agree after each one. ZELVS_MODEL_STEPS asks for more of them.
 
 #include <deque>
 #include <random>
 
 #include "support/engineFixture.h"
+#include "support/modelSeeds.h"
 #include "support/plainModel.h"
 
 namespace zelvs {
 namespace {
+
+constexpr int kSteps = 6000;
 
 class RandomUser {
  public:
@@ -233,7 +236,6 @@ class LinkModelTest : public EngineTest, public testing::WithParamInterface<unsi
 };
 
 TEST_P(LinkModelTest, TheEngineDoesAsThePlainLinkDoes) {
-  constexpr int kSteps = 6000;
   constexpr int kLeastPolls = kSteps / 10;
   for (int pair = 0; pair < 3; ++pair)
     setAddress(pair);
@@ -260,7 +262,7 @@ TEST_P(LinkModelTest, TheEngineDoesAsThePlainLinkDoes) {
   EXPECT_EQ(drawUniform(), kNext);
 }
 
-INSTANTIATE_TEST_SUITE_P(Seeds, LinkModelTest, testing::Range(1u, 41u));
+INSTANTIATE_TEST_SUITE_P(Seeds, LinkModelTest, modelSeeds(40, kSteps));
 
 }  // namespace
 }  // namespace zelvs

@@ -74,6 +74,24 @@ TEST_F(CommandsTest, RefusedCommands) {
       {"expect nothing 0", "error: unknown name: nothing\n"}, {"expect peek 0", "error: expect peek: too few words\n"});
 }
 
+TEST_F(CommandsTest, RefusedNamesOfThings) {
+  EXPECT_EXCHANGES(
+      1, {"expect error 1", "error: expect error: too many words\n"},
+      {"expect peek 0x800 00", "error: outside chip memory (0x000 to 0x7FF): 0x800\n"},
+      {"expect box", "error: expect: too few words\n"}, {"expect beeps", "error: expect: too few words\n"},
+      {"expect box a b", "error: expect: too many words\n"}, {"expect beeps x", "FAILED beeps: expected x, is 0\n"},
+      {"expect frmNone.Visible True", "error: unknown form: frmNone\n"},
+      {"expect runMode x", "FAILED runMode: expected x, is 0\n"}, {"peek 0 x", "error: not a number: x\n"},
+      {"poke 0 1 x", "error: not a byte: x\n"}, {"get iniFilePath(0)", "error: unknown name: iniFilePath\n"},
+      {"get frmNone.a.Text", "error: unknown form: frmNone\n"},
+      {"get frmMDI.lblNone.Text", "error: unknown control: frmMDI.lblNone\n"},
+      {"get frmNone.Visible", "error: unknown form: frmNone\n"}, {"get frmMDI(0", "error: not a name: frmMDI(0\n"},
+      {"set frmMDI(0 1", "error: not a shared variable: frmMDI(0\n"});
+  EXPECT_EXCHANGES(1, {"close frmMDI\nexpect box no\nanswer cancel",
+                       "FAILED box: expected \"no\", is "
+                       "\"アプリケーションを終了します。よろしいですか？\"\n"});
+}
+
 TEST(CommandTableTest, EachNameStandsOnce) {
   std::set<std::string_view> names;
   for (const CommandGroup& group : commandGroups()) {
