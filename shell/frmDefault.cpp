@@ -179,9 +179,8 @@ void FrmDefault::load() {
   fillList(cmbMode, kCounterModes);
   // The file, not the settings of the running bench.
   const auto all = fields();
-  std::vector<std::string_view> keys;
-  for (const Field& field : all)
-    keys.push_back(field.key);
+  std::vector<std::string_view> keys(all.size());
+  std::transform(all.begin(), all.end(), keys.begin(), [](const Field& field) { return field.key; });
   const std::vector<std::string> values = getIniValues(kIniSection, keys);
   for (std::size_t i = 0; i < all.size(); ++i)
     setField(all[i], leadingNumber(values[i]));
