@@ -102,13 +102,14 @@ std::error_code syncFile(FileSystem::File file) {
   return uninterrupted([&] { return fileSystem().sync(file); });
 }
 
-/// Turns `from`, which the file holds, into `to`: only what differs, and what is too long is cut off last.
+/// Turns `from`, which the file holds, into `to`, which is another: only what differs, and what is too long is cut off
+/// last.
 std::error_code writeDifference(FileSystem::File file, std::string_view from, std::string_view to) {
   const auto first =
       static_cast<std::size_t>(std::mismatch(from.begin(), from.end(), to.begin(), to.end()).second - to.begin());
   std::size_t end = to.size();
   if (from.size() == to.size()) {
-    while (end > first && from[end - 1] == to[end - 1])
+    while (from[end - 1] == to[end - 1])  // they differ somewhere
       --end;
   }
   if (const std::error_code error = writeAt(file, first, to.substr(first, end - first))) return error;

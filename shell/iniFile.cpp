@@ -66,7 +66,7 @@ std::optional<std::size_t> walkSection(std::string_view text, std::string_view s
       sectionEnd = next;
       const std::size_t equals = line.find('=');
       if (!line.starts_with(';') && equals != std::string_view::npos) {
-        const std::size_t lineEnd = end > at && text[end - 1] == '\r' ? end - 1 : end;
+        const std::size_t lineEnd = text[end - 1] == '\r' ? end - 1 : end;
         if (!visit(Entry{trimmed(line.substr(0, equals)), line.substr(equals + 1), at, lineEnd})) return sectionEnd;
       }
     }

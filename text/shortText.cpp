@@ -6,9 +6,9 @@ namespace zelvs {
 
 namespace {
 
-/// Where the text stands behind that many characters, counted from a byte on.
+/// Where the text stands behind that many characters, counted from a byte on; it has as many.
 std::size_t behind(std::string_view text, std::size_t characters, std::size_t at = 0) {
-  for (; characters > 0 && at < text.size(); --characters)
+  for (; characters > 0; --characters)
     nextCharacter(text, at);
   return at;
 }

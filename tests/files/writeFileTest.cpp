@@ -165,6 +165,7 @@ TEST_F(WriteFileTest, NothingThatLiesBesideItIsTouched) {
   fs::create_symlink("mine", path("file.new"));
   ASSERT_EQ(mkfifo(path("file.0123456789abcdef.new").c_str(), 0600), 0);
   folder.write(".file.0123456789abcdeg.new", "no digit");
+  folder.write(".elif.0123456789abcdef.new", "another's");
   folder.write(".other.0123456789abcdef.new", "another's");
   folder.write(".file.0123456789abcdef.old", "another's");
   const auto before = names();
@@ -397,6 +398,26 @@ TEST_P(FaultsTest, AKillLeavesTheOldFileOrTheNewOne) {
       EXPECT_EQ(names().size(), filesThere()) << "what the kill has left is gone";
     }
   }
+}
+
+TEST_F(WriteFileTest, ACutThatFailsGivesTheOldBytesBack) {
+  folder.write("file", kOld);
+  fs::create_hard_link(path(), path("other"));
+  FaultyFiles files;
+  files.only = "cut";
+  files.at = 1;
+  EXPECT_EQ(writeFile(path(), "short"), "Input/output error");
+  EXPECT_EQ(folder.read("file"), kOld);
+}
+
+TEST_F(WriteFileTest, AFileThatGoesAwayMeanwhileIsNotMadeAnew) {
+  folder.write("file", kOld);
+  FaultyFiles files;
+  files.only = "status";
+  files.at = 2;
+  files.error = std::errc::no_such_file_or_directory;
+  EXPECT_EQ(writeFile(path(), kNew), "it has just been removed");
+  EXPECT_EQ(folder.read("file"), kOld);
 }
 
 INSTANTIATE_TEST_SUITE_P(Ways, FaultsTest, testing::Bool(),

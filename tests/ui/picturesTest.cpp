@@ -47,6 +47,7 @@ TEST_F(PictureTest, TheSameFileIsTheSamePicture) {
   EXPECT_TRUE(loadPicture(path) == loadPicture(path));
   EXPECT_FALSE(loadPicture(path) == loadPicture(write("other.bmp", bitmapOf(1, 1))));
   EXPECT_FALSE(loadPicture(path) == Picture{});
+  EXPECT_NE(loadPicture(write("other.bmp", bitmapOf(3, 2))), loadPicture(write("third.bmp", bitmapOf(3, 2))));
 }
 
 TEST_F(PictureTest, AMissingFileEndsTheProgramWithItsName) {
