@@ -47,7 +47,14 @@ TEST_F(PictureTest, TheSameFileIsTheSamePicture) {
   EXPECT_TRUE(loadPicture(path) == loadPicture(path));
   EXPECT_FALSE(loadPicture(path) == loadPicture(write("other.bmp", bitmapOf(1, 1))));
   EXPECT_FALSE(loadPicture(path) == Picture{});
-  EXPECT_NE(loadPicture(write("other.bmp", bitmapOf(3, 2))), loadPicture(write("third.bmp", bitmapOf(3, 2))));
+}
+
+TEST_F(PictureTest, ImagesAreTheSameByListAndNumber) {
+  const ImageList one("one", 2);
+  const ImageList other("other", 2);
+  EXPECT_TRUE(one.image(1) == one.image(1));
+  EXPECT_FALSE(one.image(1) == one.image(2));
+  EXPECT_FALSE(one.image(1) == other.image(1));
 }
 
 TEST_F(PictureTest, AMissingFileEndsTheProgramWithItsName) {
